@@ -1,0 +1,98 @@
+#include "lockscreen/amazingElements.h"
+
+#include "lockscreen/pictureNames.h"
+#include "support/files.h"
+
+#include <algorithm>
+#include <array>
+
+namespace zdt {
+
+namespace {
+
+constexpr const char* imageTag = "image";
+
+void dropMissingFromEnd(std::vector<std::string>& names, const std::string& directory) {
+    while (!names.empty() && !pathExists(directory + names.back()))
+        names.pop_back();
+}
+
+} // namespace
+
+LockWallPaper::LockWallPaper(const tinyxml2::XMLElement* element)
+    : TimeAboutImage(element) {
+    listFiles();
+}
+
+LockWallPaper::LockWallPaper(Attributes attributes)
+    : TimeAboutImage(imageTag, std::move(attributes)) {
+    listFiles();
+}
+
+void LockWallPaper::listFiles() {
+    if (src().size() > maxSourceBytes)
+        return;
+    const std::vector<std::string> tokens = splitSource(src());
+    std::vector<std::string> tokens1920 = tokens;
+    std::erase(tokens1920, heightToken);
+    std::vector<std::string> tokens2160 = tokens;
+    std::replace(tokens2160.begin(), tokens2160.end(), std::string(heightToken), "'" + std::string(tallPrefix) + "'");
+    _files1920 = expandTokens(tokens1920).value_or(std::vector<std::string>());
+    _files2160 = expandTokens(tokens2160).value_or(std::vector<std::string>());
+}
+
+void LockWallPaper::lookUpFiles(const std::string& directory) {
+    if (directory.empty() || !isFolder(directory))
+        return;
+    dropMissingFromEnd(_files1920, directory);
+    dropMissingFromEnd(_files2160, directory);
+    const std::size_t pairs = std::min(_files1920.size(), _files2160.size());
+    _files1920.resize(pairs);
+    _files2160.resize(pairs);
+}
+
+std::optional<std::vector<std::string>> LockWallPaper::resources() const {
+    std::vector<std::string> names = _files1920;
+    for (const std::string& name : _files2160) {
+        // Without the height in its `src`, both sets are the same files.
+        if (std::find(_files1920.begin(), _files1920.end(), name) == _files1920.end())
+            names.push_back(name);
+    }
+    return names;
+}
+
+UnlockerData::UnlockerData(const tinyxml2::XMLElement* element)
+    : AmazingChild(element) {
+    for (const auto& child : children()) {
+        if (child->name() == "StartPoint")
+            _startPoints.push_back(child.get());
+        else if (child->name() == "EndPoint")
+            _endPoints.push_back(child.get());
+    }
+}
+
+int UnlockerData::unlockerKind() const {
+    if (_startPoints.size() != 1 || _endPoints.empty())
+        return 0;
+    constexpr std::array<const char*, 4> geometry{"x", "y", "w", "h"};
+    const bool samePlace = std::all_of(geometry.begin(), geometry.end(), [&](const char* key) {
+        return _startPoints.front()->attribute(key) == _endPoints.front()->attribute(key);
+    });
+    return samePlace ? 1 : 2;
+}
+
+bool isFullScreen(const AmazingChild& element) {
+    const std::string height = element.attribute("h");
+    return element.attribute("x") == "0" && element.attribute("y") == "0" && element.attribute("w") == "1080" &&
+           (height == "1920" || height == "2160" || height == "system.screen_height");
+}
+
+bool changesWithTime(const std::string& src) {
+    return src.find("system.time.") != std::string::npos;
+}
+
+bool isWallpaper(const AmazingChild& element) {
+    return element.name() == imageTag && isFullScreen(element) && changesWithTime(element.src());
+}
+
+} // namespace zdt

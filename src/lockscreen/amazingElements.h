@@ -1,0 +1,72 @@
+#pragma once
+
+#include "lockscreen/amazingChild.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The elements of a lock screen layout that the designer treats specially.
+namespace zdt {
+
+/// A digit of the clock, or the picture between the digits.
+class TimeAboutImage : public AmazingChild {
+public:
+    using AmazingChild::AmazingChild;
+};
+
+/// The picture that fills the screen and changes with the time. It has two sets of files, one for each screen height.
+class LockWallPaper : public TimeAboutImage {
+public:
+    explicit LockWallPaper(const tinyxml2::XMLElement* element);
+    explicit LockWallPaper(Attributes attributes);
+
+    /// The names for a height of 1920, and those for 2160. They are pairs once the files were looked up.
+    [[nodiscard]] const std::vector<std::string>& files1920() const { return _files1920; }
+    [[nodiscard]] const std::vector<std::string>& files2160() const { return _files2160; }
+    /// Takes the names off each list's end whose files aren't in the directory, up to the first that is, and the longer
+    /// list down to the length of the shorter. A missing directory changes nothing.
+    void lookUpFiles(const std::string& directory);
+
+    /// Both sets.
+    [[nodiscard]] std::optional<std::vector<std::string>> resources() const override;
+
+private:
+    void listFiles();
+
+    std::vector<std::string> _files1920;
+    std::vector<std::string> _files2160;
+};
+
+/// Any other picture.
+class Decoration : public AmazingChild {
+public:
+    using AmazingChild::AmazingChild;
+};
+
+/// What the hand moves to unlock: an element with points where it starts and ends.
+class UnlockerData : public AmazingChild {
+public:
+    explicit UnlockerData(const tinyxml2::XMLElement* element);
+
+    /// Children of this element, not owned by the lists.
+    [[nodiscard]] const std::vector<AmazingChild*>& startPoints() const { return _startPoints; }
+    [[nodiscard]] const std::vector<AmazingChild*>& endPoints() const { return _endPoints; }
+    /// 1 if the first end lies where the one start does, 2 if it lies elsewhere; 0 without an end, or if the starts are
+    /// not exactly one.
+    [[nodiscard]] int unlockerKind() const;
+
+private:
+    std::vector<AmazingChild*> _startPoints;
+    std::vector<AmazingChild*> _endPoints;
+};
+
+/// Whether the attributes are those of a picture that fills the screen.
+[[nodiscard]] bool isFullScreen(const AmazingChild& element);
+/// Whether a `src` changes with the time of day.
+[[nodiscard]] bool changesWithTime(const std::string& src);
+/// Whether the attributes are those of the wallpaper: an `image` that fills the screen and changes with the time.
+[[nodiscard]] bool isWallpaper(const AmazingChild& element);
+
+} // namespace zdt

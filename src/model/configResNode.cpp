@@ -1,0 +1,120 @@
+#include "model/configResNode.h"
+
+#include "model/textResNode.h"
+#include "support/assertion.h"
+#include "support/files.h"
+#include "support/xmlFile.h"
+
+#include <algorithm>
+#include <memory>
+#include <unordered_set>
+
+namespace zdt {
+
+namespace {
+
+constexpr const char* source = "configResNode";
+constexpr const char* colourType = "color";
+constexpr int blockKind = 2;
+
+using Keys = std::vector<std::string>;
+
+/// One step of the merge. Once a key of `merged` is found further on in `added`, the keys up to that place come first
+/// and both sides are level there.
+Keys mergePair(const Keys& merged, const Keys& added) {
+    Keys result;
+    auto left = merged.begin();
+    auto right = added.begin();
+    while (left != merged.end() && right != added.end()) {
+        const auto same = std::find(right, added.end(), *left);
+        if (same == added.end()) {
+            result.push_back(*left++);
+        } else if (same != right) {
+            result.insert(result.end(), right, same);
+            right = same;
+        } else {
+            result.push_back(*left++);
+            ++right;
+        }
+    }
+    result.insert(result.end(), left, merged.end());
+    result.insert(result.end(), right, added.end());
+    return result;
+}
+
+} // namespace
+
+std::vector<std::string> mergeKeyLists(const std::vector<KeyList>& lists) {
+    Keys merged;
+    for (const KeyList& list : lists)
+        merged = mergePair(merged, list.second);
+    std::unordered_set<std::string> seen;
+    std::erase_if(merged, [&](const std::string& key) { return !seen.insert(key).second; });
+    return merged;
+}
+
+ConfigResNode::ConfigResNode(ResNode* parent, TypeMask mask, std::string name, ConfigBlock block)
+    : ResNode(parent, mask, std::move(name))
+    , _rootElement("resources")
+    , _defaultType(std::move(block.defaultType))
+    , _typeMap(std::move(block.types)) {
+    setValueKind(blockKind);
+    setPath(std::move(block.directory));
+    std::map<std::string, TypeMask> masks;
+    for (const auto& [listMask, keys] : block.keyLists) {
+        for (const std::string& key : keys)
+            masks[key] |= listMask;
+    }
+    for (const std::string& key : mergeKeyLists(block.keyLists)) {
+        if (typeOf(key) == colourType)
+            adopt(std::make_unique<ColorTextResNode>(masks[key], key, block.defaults[key]));
+        else
+            adopt(std::make_unique<TextResNode>(masks[key], key, block.defaults[key]));
+    }
+    readFile();
+}
+
+const std::string& ConfigResNode::typeOf(const std::string& key) const {
+    const auto entry = _typeMap.find(key);
+    return entry == _typeMap.end() ? _defaultType : entry->second;
+}
+
+void ConfigResNode::readFile() {
+    const std::string directory = nodeDirectory();
+    tinyxml2::XMLDocument document;
+    if (directory.empty() || !loadXml(document, directory + "theme.xml"))
+        return;
+    const tinyxml2::XMLElement* root = document.RootElement();
+    _rootElement = root->Name();
+    std::map<std::string, std::string> values;
+    for (const auto* element = root->FirstChildElement(); element; element = element->NextSiblingElement()) {
+        const char* key = element->Attribute("name");
+        const char* text = element->GetText();
+        if (key && text)
+            values[key] = text;
+    }
+    for (ResNode* child = firstChild(); child; child = child->next()) {
+        // A refused value leaves the default, and its code in the child's errors for the list of problems.
+        if (const auto value = values.find(child->name()); value != values.end())
+            static_cast<void>(child->setValue(value->second));
+    }
+}
+
+bool ConfigResNode::save(bool all) {
+    const std::string directory = nodeDirectory();
+    if (directory.empty())
+        return false;
+    tinyxml2::XMLDocument document;
+    tinyxml2::XMLElement& root = startXml(document, _rootElement);
+    for (const ResNode* child = firstChild(); child; child = child->next()) {
+        if (!all && !child->isApplicable())
+            continue;
+        const std::string& nodeName = typeOf(child->name());
+        ZDT_ASSERT(!nodeName.empty() || nodeName == _defaultType, source);
+        if (!nodeName.empty())
+            addXmlElement(root, nodeName, child->value()).SetAttribute("name", child->name().c_str());
+    }
+    return root.NoChildren() || (makePath(directory) && saveXml(document, directory + "theme.xml"));
+}
+
+} // namespace zdt

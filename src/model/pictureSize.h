@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <string>
+
+/// The pixel size of a picture, read from its header alone: no picture is decoded, and a large wallpaper's size is
+/// known after a few hundred bytes. The file's content is believed, not its name.
+namespace zdt {
+
+struct PictureSize {
+    std::uint32_t width = 0;  ///< Pixels; 0 if it couldn't be read.
+    std::uint32_t height = 0; ///< Pixels; 0 if it couldn't be read.
+
+    friend bool operator==(const PictureSize&, const PictureSize&) = default;
+};
+
+/// The size in a PNG's header, also in that of the early form with no length and type in front of it. 0 x 0 for
+/// anything else. The stream stands at the file's start.
+[[nodiscard]] PictureSize readPngSize(std::FILE* file);
+
+/// The size in a JPEG's first frame header. 0 x 0 for anything else. The stream stands at the file's start.
+[[nodiscard]] PictureSize readJpegSize(std::FILE* file);
+
+[[nodiscard]] PictureSize pngSize(const std::string& path);
+[[nodiscard]] PictureSize jpegSize(const std::string& path);
+
+} // namespace zdt

@@ -1,0 +1,31 @@
+#include "modules/keyBlock.h"
+
+namespace zdt {
+
+namespace {
+
+constexpr const char* defaultKeyType = "color";
+
+} // namespace
+
+ConfigBlock makeKeyBlock(std::span<const tables::KeyRow> rows, TypeMask kinds, std::string directory) {
+    ConfigBlock block;
+    block.defaultType = defaultKeyType;
+    block.directory = std::move(directory);
+    for (const tables::KeyRow& row : rows) {
+        const TypeMask mask = kinds | row.generations;
+        if (block.keyLists.empty() || block.keyLists.back().first != mask)
+            block.keyLists.push_back({mask, {}});
+        const std::string& key = block.keyLists.back().second.emplace_back(row.name);
+        block.defaults[key] = row.fallback;
+        if (row.type != defaultKeyType)
+            block.types[key] = row.type;
+    }
+    return block;
+}
+
+ConfigResNode& addKeyBlock(ResNode& module, std::span<const tables::KeyRow> rows, TypeMask kinds) {
+    return module.emplaceChild<ConfigResNode>(module.typeMask(), "text", makeKeyBlock(rows, kinds, module.path()));
+}
+
+} // namespace zdt

@@ -1,0 +1,55 @@
+#include "support/text.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace zdt {
+
+namespace {
+
+/// The length of the UTF-8 sequence at the start of `text`, 0 if it is not well formed.
+std::size_t sequenceLength(std::string_view text) {
+    const auto byteAt = [&](std::size_t index) { return static_cast<unsigned char>(text[index]); };
+    const unsigned char lead = byteAt(0);
+    if (lead < 0x80)
+        return 1;
+    const std::size_t length = lead >= 0xf0 ? 4 : lead >= 0xe0 ? 3 : 2;
+    if (lead < 0xc2 || lead > 0xf4 || text.size() < length)
+        return 0;
+    std::uint32_t codePoint = lead & (0x7fU >> length);
+    for (std::size_t index = 1; index < length; ++index) {
+        if ((byteAt(index) & 0xc0) != 0x80)
+            return 0;
+        codePoint = codePoint << 6 | (byteAt(index) & 0x3fU);
+    }
+    constexpr std::uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+    const bool isSurrogate = codePoint >= 0xd800 && codePoint <= 0xdfff;
+    return codePoint < smallest[length] || codePoint > 0x10ffff || isSurrogate ? 0 : length;
+}
+
+} // namespace
+
+bool isUtf8(std::string_view text) {
+    while (!text.empty()) {
+        const std::size_t length = sequenceLength(text);
+        if (length == 0)
+            return false;
+        text.remove_prefix(length);
+    }
+    return true;
+}
+
+bool isPrintable(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return c >= 32 && c <= 126; });
+}
+
+std::string toLowerAscii(std::string_view text) {
+    std::string result(text);
+    for (char& c : result) {
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c - 'A' + 'a');
+    }
+    return result;
+}
+
+} // namespace zdt

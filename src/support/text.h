@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zdt {
+
+/// Whether the bytes are well-formed UTF-8: no overlong form, no surrogate, nothing above U+10FFFF.
+[[nodiscard]] bool isUtf8(std::string_view text);
+
+/// Whether every byte lies in the printable ASCII range of 32 to 126. True for an empty text.
+[[nodiscard]] bool isPrintable(std::string_view text);
+
+/// The text with the ASCII letters lower-cased; other bytes stay.
+[[nodiscard]] std::string toLowerAscii(std::string_view text);
+
+} // namespace zdt
