@@ -63,7 +63,8 @@ tinyxml2::XMLElement* AmazingChild::write(tinyxml2::XMLDocument* doc) const {
 }
 
 std::optional<std::vector<std::string>> AmazingChild::resources() const {
-    if (_name != "image" && _name != "frame")
+    const bool isPicture = _name == "image" || _name == "frame";
+    if (!isPicture || src().empty())
         return std::vector<std::string>();
     return expandSource(src());
 }

@@ -34,7 +34,7 @@ public:
     [[nodiscard]] virtual bool copyResources(const std::string& sourceDirectory,
                                              const std::string& targetDirectory) const;
     /// The bare names of the picture files that the element itself names: those of an `image` or a `frame`, none for
-    /// any other. Nothing if its `src` stands for more names than a layout can use.
+    /// any other or without a `src`. Nothing if its `src` stands for more names than a layout can use.
     [[nodiscard]] virtual std::optional<std::vector<std::string>> resources() const;
 
     [[nodiscard]] const std::string& name() const { return _name; }

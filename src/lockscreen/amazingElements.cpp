@@ -30,7 +30,8 @@ LockWallPaper::LockWallPaper(Attributes attributes)
 }
 
 void LockWallPaper::listFiles() {
-    if (src().size() > maxSourceBytes)
+    _isRefused = !expandSource(src());
+    if (_isRefused)
         return;
     const std::vector<std::string> tokens = splitSource(src());
     std::vector<std::string> tokens1920 = tokens;
@@ -52,6 +53,8 @@ void LockWallPaper::lookUpFiles(const std::string& directory) {
 }
 
 std::optional<std::vector<std::string>> LockWallPaper::resources() const {
+    if (_isRefused)
+        return std::nullopt;
     std::vector<std::string> names = _files1920;
     for (const std::string& name : _files2160) {
         // Without the height in its `src`, both sets are the same files.

@@ -29,7 +29,7 @@ public:
     /// list down to the length of the shorter. A missing directory changes nothing.
     void lookUpFiles(const std::string& directory);
 
-    /// Both sets.
+    /// Both sets; nothing if the `src` is refused.
     [[nodiscard]] std::optional<std::vector<std::string>> resources() const override;
 
 private:
@@ -37,6 +37,7 @@ private:
 
     std::vector<std::string> _files1920;
     std::vector<std::string> _files2160;
+    bool _isRefused = false;
 };
 
 /// Any other picture.
@@ -49,6 +50,7 @@ public:
 class UnlockerData : public AmazingChild {
 public:
     explicit UnlockerData(const tinyxml2::XMLElement* element);
+    UnlockerData(const UnlockerData&) = delete; // The lists would point into the other element.
 
     /// Children of this element, not owned by the lists.
     [[nodiscard]] const std::vector<AmazingChild*>& startPoints() const { return _startPoints; }

@@ -93,8 +93,7 @@ using Tokens = std::vector<std::string>;
 /// How many tokens of a postfix list are read at most, so that no text makes a tree too deep to walk.
 inline constexpr std::size_t maxExpressionTokens = 4096;
 
-/// The tree of a postfix list. Each operator with fewer than two operands in front of it ends the reading; "%" divides
-/// as
+/// The tree of a postfix list. An operator with fewer than two operands in front of it ends the reading; "%" divides as
 /// "/" does; an operand counts by its leading digits.
 class Evaluator : public Expression {
 public:

@@ -130,6 +130,7 @@ std::optional<std::vector<std::string>> expandSource(std::string_view src) {
     });
     if (isPlainName)
         return Names{std::string(src)};
+    std::erase(tokens, heightToken); // It stands in quotes, yet it is a variable, and not one of the clock.
     return expandTokens(tokens);
 }
 

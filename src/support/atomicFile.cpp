@@ -7,6 +7,8 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <cerrno>
+#include <utility>
 
 namespace zdt {
 
@@ -19,10 +21,20 @@ std::string folderOf(const std::string& path) {
     return parent.empty() ? (path.starts_with('/') ? "/" : ".") : parent;
 }
 
-/// A short name of its own, so that a target name of the greatest length still works.
+/// A short name of its own, so that a target name of the greatest length still works. It may be taken: a process that
+/// was killed leaves one behind, and process ids come again, in containers above all.
 std::string temporaryNameIn(const std::string& folder) {
     static std::atomic<unsigned> counter{0};
     return folder + "/." + std::to_string(::getpid()) + "-" + std::to_string(counter++) + ".part";
+}
+
+bool withDescriptor(const std::string& path, int (*flush)(int)) {
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0)
+        return false;
+    const bool flushed = flush(descriptor) == 0;
+    ::close(descriptor);
+    return flushed;
 }
 
 } // namespace
@@ -32,8 +44,10 @@ AtomicFile::AtomicFile(std::string targetPath)
     const std::string folder = folderOf(_target);
     int descriptor = ::open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, newFileMode);
     if (descriptor < 0) { // Not every file system knows files without a name.
-        _temporary = temporaryNameIn(folder);
-        descriptor = ::open(_temporary.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, newFileMode);
+        do {
+            _temporary = temporaryNameIn(folder);
+            descriptor = ::open(_temporary.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, newFileMode);
+        } while (descriptor < 0 && errno == EEXIST);
     }
     if (descriptor < 0) {
         _temporary.clear();
@@ -45,42 +59,36 @@ AtomicFile::AtomicFile(std::string targetPath)
 }
 
 AtomicFile::~AtomicFile() {
-    close();
+    static_cast<void>(close());
     if (!_temporary.empty())
         ::unlink(_temporary.c_str());
 }
 
-void AtomicFile::close() {
-    if (_stream)
-        std::fclose(_stream);
-    _stream = nullptr;
-}
-
-bool AtomicFile::finishWriting(Flush flush) {
-    if (std::fflush(_stream) != 0 || std::ferror(_stream) != 0)
-        return false;
-    return flush == Flush::no || ::fsync(::fileno(_stream)) == 0;
+bool AtomicFile::close() {
+    std::FILE* stream = std::exchange(_stream, nullptr);
+    return stream && std::fclose(stream) == 0;
 }
 
 bool AtomicFile::giveName() {
     if (!_temporary.empty())
         return true;
     const std::string handle = "/proc/self/fd/" + std::to_string(::fileno(_stream));
-    const std::string name = temporaryNameIn(folderOf(_target));
-    if (::linkat(AT_FDCWD, handle.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) != 0)
-        return false;
-    _temporary = name;
-    return true;
+    const std::string folder = folderOf(_target);
+    do {
+        _temporary = temporaryNameIn(folder);
+        if (::linkat(AT_FDCWD, handle.c_str(), AT_FDCWD, _temporary.c_str(), AT_SYMLINK_FOLLOW) == 0)
+            return true;
+    } while (errno == EEXIST);
+    _temporary.clear();
+    return false;
 }
 
 bool AtomicFile::commit(Flush flush) {
-    if (!_stream || !finishWriting(flush) || !giveName())
-        return false;
-    close();
-    if (::rename(_temporary.c_str(), _target.c_str()) != 0)
+    const bool written = _stream && std::fflush(_stream) == 0 && std::ferror(_stream) == 0 && giveName();
+    if (!close() || !written || !moveIntoPlace(_temporary, _target, flush))
         return false;
     _temporary.clear();
-    return flush == Flush::no || flushToDisk(folderOf(_target));
+    return true;
 }
 
 bool writeFile(const std::string& path, std::string_view content, Flush flush) {
@@ -91,13 +99,20 @@ bool writeFile(const std::string& path, std::string_view content, Flush flush) {
     return file.commit(flush);
 }
 
-bool flushToDisk(const std::string& path) {
-    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0)
+bool moveIntoPlace(const std::string& finished, const std::string& target, Flush flush) {
+    if (flush == Flush::toDisk && !flushToDisk(finished))
         return false;
-    const bool flushed = ::fsync(descriptor) == 0;
-    ::close(descriptor);
-    return flushed;
+    if (::rename(finished.c_str(), target.c_str()) != 0)
+        return false;
+    return flush == Flush::no || flushToDisk(folderOf(target));
+}
+
+bool flushFileSystem(const std::string& path) {
+    return withDescriptor(path, ::syncfs);
+}
+
+bool flushToDisk(const std::string& path) {
+    return withDescriptor(path, ::fsync);
 }
 
 } // namespace zdt

@@ -30,9 +30,8 @@ public:
     [[nodiscard]] bool commit(Flush flush = Flush::no);
 
 private:
-    [[nodiscard]] bool finishWriting(Flush flush);
     [[nodiscard]] bool giveName();
-    void close();
+    [[nodiscard]] bool close();
 
     std::string _target;
     std::string _temporary; ///< Empty while the file has no name.
@@ -41,6 +40,12 @@ private:
 
 /// Writes `content` to `path` whole or not at all; the folder must exist.
 [[nodiscard]] bool writeFile(const std::string& path, std::string_view content, Flush flush = Flush::no);
+
+/// Puts a finished file over another on the same file system, in one step.
+[[nodiscard]] bool moveIntoPlace(const std::string& finished, const std::string& target, Flush flush);
+
+/// Flushes all that was written to the file system of a path to disk, at once: what a tree of many files asks for.
+[[nodiscard]] bool flushFileSystem(const std::string& path);
 
 /// Flushes a finished file or a folder's entries to disk.
 [[nodiscard]] bool flushToDisk(const std::string& path);

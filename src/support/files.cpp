@@ -27,14 +27,13 @@ std::string withoutTrailingSlash(std::string path) {
     return path;
 }
 
-/// Calls `visit` with each entry of a folder; false if the folder can't be listed to its end.
-template <typename Visit>
-bool forEachEntry(const std::string& path, Visit visit) {
-    std::error_code error;
-    fs::directory_iterator entry(path, error);
-    for (const fs::directory_iterator end; !error && entry != end; entry.increment(error))
-        visit(*entry);
-    return !error;
+std::vector<std::string> listNames(const std::string& path, bool folders) {
+    std::vector<std::string> names;
+    for (FolderEntry& entry : listEntries(path).value_or(std::vector<FolderEntry>())) {
+        if (entry.isFolder == folders)
+            names.push_back(std::move(entry.name));
+    }
+    return names;
 }
 
 } // namespace
@@ -146,24 +145,27 @@ bool isPrintableName(const std::string& path) {
     return isPrintable(fileName(path));
 }
 
+std::optional<std::vector<FolderEntry>> listEntries(const std::string& path) {
+    std::vector<FolderEntry> entries;
+    std::error_code error;
+    fs::directory_iterator entry(path, error);
+    for (const fs::directory_iterator end; !error && entry != end; entry.increment(error)) {
+        std::error_code entryError;
+        const bool isFolder = fs::is_directory(entry->symlink_status(entryError));
+        if (isFolder || entry->is_regular_file(entryError))
+            entries.push_back({entry->path().filename().string(), isFolder});
+    }
+    if (error)
+        return std::nullopt;
+    return entries;
+}
+
 std::vector<std::string> listDirectories(const std::string& path) {
-    std::vector<std::string> names;
-    forEachEntry(path, [&](const fs::directory_entry& entry) {
-        std::error_code error;
-        if (fs::is_directory(entry.symlink_status(error)))
-            names.push_back(entry.path().filename().string());
-    });
-    return names;
+    return listNames(path, true);
 }
 
 std::vector<std::string> listFiles(const std::string& path) {
-    std::vector<std::string> names;
-    forEachEntry(path, [&](const fs::directory_entry& entry) {
-        std::error_code error;
-        if (entry.is_regular_file(error))
-            names.push_back(entry.path().filename().string());
-    });
-    return names;
+    return listNames(path, false);
 }
 
 std::uint64_t fileSize(const std::string& path) {
@@ -180,7 +182,7 @@ std::uint64_t treeSize(const std::string& path) {
     for (const fs::recursive_directory_iterator end; !error && entry != end; entry.increment(error)) {
         std::error_code entryError;
         if (fs::is_regular_file(entry->symlink_status(entryError)))
-            total += entry->file_size(entryError);
+            total += fileSize(entry->path().string());
     }
     return total;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -56,8 +57,17 @@ void normalisePath(std::string& path);
 /// Whether every byte of the path's file name lies in 32 to 126.
 [[nodiscard]] bool isPrintableName(const std::string& path);
 
-/// The names of the folders directly in a folder, without a trailing "/", in the file system's order. Links to folders
-/// are left out, so that no walk leaves the tree or runs in a circle.
+/// One thing that a folder holds.
+struct FolderEntry {
+    std::string name;
+    bool isFolder = false; ///< Otherwise it is a plain file.
+};
+
+/// The plain files and folders directly in a folder, in the file system's order; nothing if it can't be listed. Links to
+/// folders are left out, so that no walk leaves the tree or runs in a circle, and so are pipes and devices.
+[[nodiscard]] std::optional<std::vector<FolderEntry>> listEntries(const std::string& path);
+
+/// The names of the folders directly in a folder, without a trailing "/", in the file system's order.
 [[nodiscard]] std::vector<std::string> listDirectories(const std::string& path);
 
 /// The names of the plain files directly in a folder, in the file system's order.

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "cli/output.h"
+
+#include <string>
+#include <vector>
+
+/// The commands of `zdt`. Each prints its result and gives the exit status, or throws a `Refusal`.
+namespace zdt {
+
+struct NewTheme {
+    std::string name;
+    unsigned versionIndex = 0;
+    bool small = false;
+    bool english = false;
+};
+
+int listCommand(const Context& context);
+int newCommand(const Context& context, const NewTheme& request);
+int infoCommand(const Context& context, const std::string& name);
+int deleteCommand(const Context& context, const std::string& name);
+int generationCommand(const Context& context, const std::string& name, unsigned versionIndex);
+int dynamicCommand(const Context& context, const std::string& name, DynamicIcon icon, bool has);
+
+int treeCommand(const Context& context, const std::string& name);
+int getCommand(const Context& context, const std::string& name, const std::string& key);
+/// @param pairs keys and values in turn
+int setCommand(const Context& context, const std::string& name, const std::vector<std::string>& pairs);
+int resetCommand(const Context& context, const std::string& name, const std::string& key);
+
+int checkCommand(const Context& context, const std::string& name);
+int exportCommand(const Context& context, const std::string& name, const std::string& file);
+int importCommand(const Context& context, const std::string& file, bool replace);
+
+/// Opens a theme that stands under the store root, with the language that its settings tell.
+[[nodiscard]] std::unique_ptr<ThemeResource> openListed(const Context& context, const std::string& name);
+
+/// A mask as it is printed: "0x" and eight digits.
+[[nodiscard]] std::string maskText(TypeMask mask);
+
+} // namespace zdt

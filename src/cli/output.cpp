@@ -1,0 +1,55 @@
+#include "cli/output.h"
+
+#include "cli/words.h"
+
+#include <unistd.h>
+
+#include <cmath>
+#include <ostream>
+
+namespace zdt {
+
+Refusal::Refusal(const std::string& what, int code)
+    : std::runtime_error(what + ": " + wordsFor(code) + " (" + std::to_string(code) + ")") {}
+
+void Context::print(const Json& document, const std::vector<std::string>& lines) const {
+    if (json) {
+        // What a theme brings along may be no UTF-8, and then shows as such.
+        out << document.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+        return;
+    }
+    for (const std::string& line : lines)
+        out << line << '\n';
+}
+
+void Context::print(const std::string& text) const {
+    print(Json(text), {text});
+}
+
+Progress Context::progress(const std::string& label) const {
+    if (::isatty(STDERR_FILENO) == 0)
+        return {};
+    return [this, label, shown = -1](double done) mutable {
+        const int percent = static_cast<int>(std::lround(done * 100));
+        if (percent == shown)
+            return;
+        shown = percent;
+        err << '\r' << label << ' ' << percent << " %" << (percent == 100 ? "\n" : "") << std::flush;
+    };
+}
+
+bool printProblems(const Context& context, const std::vector<Problem>& problems) {
+    Json list = Json::array();
+    std::vector<std::string> lines;
+    for (const Problem& problem : problems) {
+        const std::string key = joinKeyPath(problem.key);
+        const std::string reason = wordsFor(problem.code);
+        list.push_back({{"key", key}, {"path", problem.path}, {"code", problem.code}, {"reason", reason}});
+        const std::string file = problem.path.empty() ? std::string() : " [" + problem.path + "]";
+        lines.push_back(key + ": " + reason + " (" + std::to_string(problem.code) + ")" + file);
+    }
+    context.print(list, lines);
+    return !problems.empty();
+}
+
+} // namespace zdt

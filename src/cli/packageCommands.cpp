@@ -1,0 +1,42 @@
+#include "cli/commands.h"
+#include "cli/words.h"
+#include "support/files.h"
+
+#include <algorithm>
+
+namespace zdt {
+
+int checkCommand(const Context& context, const std::string& name) {
+    const auto theme = openListed(context, name);
+    std::vector<Problem> problems;
+    static_cast<void>(theme->checkFiles(problems));
+    return printProblems(context, problems) ? 1 : 0;
+}
+
+int exportCommand(const Context& context, const std::string& name, const std::string& file) {
+    const auto theme = openListed(context, name);
+    std::vector<Problem> problems;
+    if (!theme->checkFiles(problems))
+        throw Refusal(name, "it isn't ready for an export; \"zdt check\" lists what is missing, " +
+                                std::to_string(problems.size()) + " in all");
+    if (isFolder(file))
+        throw Refusal(file, "a folder stands there");
+    if (!theme->exportTo(file, context.progress("export")))
+        throw Refusal(file, "the package couldn't be written");
+    return 0;
+}
+
+int importCommand(const Context& context, const std::string& file, bool replace) {
+    const std::string name = stem(file);
+    const std::vector<std::string> names = ThemeResource::listThemes(context.root);
+    if (!replace && pathExists(file) && std::find(names.begin(), names.end(), name) != names.end())
+        throw Refusal(name, "there is a theme of that name already; --replace puts the package in its place");
+    std::string imported;
+    ImportFailure failure = ImportFailure::none;
+    if (!ThemeResource::importTheme(file, imported, context.root, &failure, context.progress("import")))
+        throw Refusal(file, wordsFor(failure));
+    context.print(imported);
+    return 0;
+}
+
+} // namespace zdt

@@ -1,0 +1,131 @@
+#include "modules/iconsNode.h"
+#include "packaging/zipFolder.h"
+#include "store/themeLayout.h"
+#include "store/themeResource.h"
+#include "support/files.h"
+
+#include <string_view>
+#include <vector>
+
+/// The import of a package. It is unpacked and verified aside, and takes its place at the end.
+namespace zdt {
+
+namespace {
+
+constexpr const char* nestedSuffix = ".zip";
+
+ImportFailure failureOf(ArchiveVerdict verdict) {
+    switch (verdict) {
+    case ArchiveVerdict::good:
+        return ImportFailure::none;
+    case ArchiveVerdict::unreadable:
+        return ImportFailure::notAPackage;
+    case ArchiveVerdict::unsafe:
+        return ImportFailure::unsafe;
+    case ArchiveVerdict::tooLarge:
+        return ImportFailure::tooLarge;
+    }
+    return ImportFailure::notAPackage;
+}
+
+bool unpackWhole(const std::string& archive, const std::string& folder) {
+    // The archive was inspected, against the budget of the whole package.
+    return UnzipToFolder(archive, folder) && holdsAllOf(folder, archive);
+}
+
+/// The nested archives directly in an unpacked package, each renamed to end in ".zip".
+ImportFailure setNestedAside(const std::string& folder, UnpackBudget& budget, std::vector<std::string>& archives) {
+    for (const std::string& name : listFiles(folder)) {
+        if (extension(name) == ".xml")
+            continue;
+        const std::string archive = folder + name + nestedSuffix;
+        if (pathExists(archive) || !moveIntoPlace(folder + name, archive, Flush::no))
+            return ImportFailure::incomplete;
+        if (const ArchiveVerdict verdict = inspectArchive(archive, budget); verdict != ArchiveVerdict::good)
+            return failureOf(verdict);
+        archives.push_back(archive);
+    }
+    return ImportFailure::none;
+}
+
+bool unpackNested(const std::string& archive) {
+    const std::string folder = archive.substr(0, archive.size() - std::string_view(nestedSuffix).size()) + "/";
+    return CreateFolderPath(folder) && unpackWhole(archive, folder) && RemoveFileAt(archive);
+}
+
+ImportFailure unpackPackage(const std::string& package, const std::string& folder, const Progress& progress) {
+    UnpackBudget budget;
+    if (const ArchiveVerdict verdict = inspectArchive(package, budget); verdict != ArchiveVerdict::good)
+        return failureOf(verdict);
+    if (!RemoveFolder(folder) || !CreateFolderPath(folder) || !unpackWhole(package, folder))
+        return ImportFailure::incomplete;
+    if (!isPlainFile(folder + std::string(descriptionFile)))
+        return ImportFailure::notAPackage;
+    std::vector<std::string> archives;
+    if (const ImportFailure failure = setNestedAside(folder, budget, archives); failure != ImportFailure::none)
+        return failure;
+    const bool unpacked = parallelFor(
+        archives.size(), [&](std::size_t index) { return unpackNested(archives[index]); }, progress);
+    return unpacked ? ImportFailure::none : ImportFailure::incomplete;
+}
+
+/// Puts the unpacked theme in the place of a standing one, which is kept until then.
+bool takePlace(const std::string& staging, const std::string& target) {
+    const std::string place = parentPath(target);
+    const std::string replaced = parentPath(staging) + "/replaced";
+    const std::string fresh = parentPath(staging) + "/fresh";
+    const bool stood = pathExists(place);
+    if (stood && !moveIntoPlace(place, replaced, Flush::no))
+        return false;
+    if (moveIntoPlace(fresh, place, Flush::no))
+        return true;
+    if (stood)
+        static_cast<void>(moveIntoPlace(replaced, place, Flush::no));
+    return false;
+}
+
+bool writeImportedSettings(const std::string& root, const std::string& name) {
+    KeyValues settings;
+    for (const std::string_view package : {weatherPackage, calendarPackage, clockPackage}) {
+        const std::string directory =
+            themeFolder(root, name) + std::string(dynamicIconsDirectory) + std::string(package);
+        settings[std::string(package)] = isFolder(directory) ? "true" : "false";
+    }
+    const std::string file = settingsFile(root, name);
+    return makePath(file) && writeKeyValueFile(file, settings, Flush::toDisk);
+}
+
+ImportFailure importPackage(const std::string& package, const std::string& name, const std::string& root,
+                            const Progress& progress) {
+    const std::string staging = stagingFolder(root, name);
+    const ImportFailure failure = unpackPackage(package, staging + "fresh/", progress);
+    if (failure != ImportFailure::none)
+        return failure;
+    const bool placed = makePath(themesFolder(root)) && flushFileSystem(staging) &&
+                        takePlace(staging, themeFolder(root, name)) && writeImportedSettings(root, name);
+    return placed ? ImportFailure::none : ImportFailure::incomplete;
+}
+
+} // namespace
+
+bool ThemeResource::importTheme(const std::string& packagePath, std::string& outName, const std::string& root,
+                                ImportFailure* failure, const Progress& progress) {
+    std::string path = packagePath;
+    normalisePath(path);
+    outName = stem(path);
+    const std::string rootDirectory = storeRoot(root);
+    ImportFailure result = ImportFailure::none;
+    if (path.empty() || !pathExists(path)) {
+        result = ImportFailure::missing;
+    } else if (!isThemeName(outName)) {
+        result = ImportFailure::badName;
+    } else {
+        result = importPackage(path, outName, rootDirectory, progress);
+        static_cast<void>(RemoveFolder(stagingFolder(rootDirectory, outName)));
+    }
+    if (failure)
+        *failure = result;
+    return result == ImportFailure::none;
+}
+
+} // namespace zdt

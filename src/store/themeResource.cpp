@@ -1,0 +1,173 @@
+#include "store/themeResource.h"
+
+#include "lockscreen/amazingUnlockNode.h"
+#include "modules/iconsNode.h"
+#include "modules/themeNode.h"
+#include "store/themeLayout.h"
+#include "support/assertion.h"
+#include "support/files.h"
+
+#include <limits>
+#include <stdexcept>
+
+namespace zdt {
+
+namespace {
+
+constexpr const char* source = "themeResource";
+constexpr const char* typeKey = "type";
+constexpr const char* lockWallpaperKey = "lock wallpaper";
+
+std::string flagText(bool flag) {
+    return flag ? "true" : "false";
+}
+
+/// @throws std::invalid_argument if the text isn't a number of 32 bits
+TypeMask parseTypeMask(const std::string& text) {
+    try {
+        const unsigned long value = std::stoul(text);
+        if (value <= std::numeric_limits<TypeMask>::max())
+            return static_cast<TypeMask>(value);
+    } catch (const std::out_of_range&) { // Told as any other text that is no mask.
+    }
+    throw std::invalid_argument("the type in the settings is no number: " + text);
+}
+
+/// What a theme without settings is, told by what it holds.
+TypeMask deriveTypeMask(const std::string& themeDirectory) {
+    TypeMask mask = typeMask::chinese;
+    const Description description = readDescriptionFile(themeDirectory + std::string(descriptionFile));
+    const auto version = description.find("version");
+    if (version == description.end())
+        mask |= typeMask::generation9;
+    else if (!version->second.empty())
+        mask |= version->second.front() == '5'   ? typeMask::generation5
+                : version->second.front() == '8' ? typeMask::generation8
+                                                 : typeMask::generation9;
+    return mask | (isFolder(themeDirectory + "com.android.mms/") ? typeMask::bigTheme : typeMask::smallTheme);
+}
+
+} // namespace
+
+ThemeResource::ThemeResource(std::string root, std::string name, TypeMask mask)
+    : _rootDirectory(std::move(root))
+    , _name(std::move(name)) {
+    _resTree = std::make_unique<ThemeNode>(mask, themeFolder(_rootDirectory, _name));
+    _amazingNode = dynamic_cast<AmazingUnlockNode*>(_resTree->findByPath(KeyPath{"unlock", "amazing"}));
+    ZDT_ASSERT(_amazingNode, source);
+}
+
+ThemeResource::~ThemeResource() {
+    static_cast<void>(saveSettings());
+}
+
+std::unique_ptr<ThemeResource> ThemeResource::openTheme(const std::string& themeName, bool chinese,
+                                                        const std::string& root) {
+    ZDT_ASSERT(!themeName.empty(), source);
+    if (!isThemeName(themeName))
+        return nullptr;
+    const std::string rootDirectory = storeRoot(root);
+    KeyValues settings = readKeyValueFile(settingsFile(rootDirectory, themeName));
+    const auto type = settings.find(typeKey);
+    const TypeMask mask =
+        type == settings.end() ? deriveTypeMask(themeFolder(rootDirectory, themeName)) : parseTypeMask(type->second);
+    std::unique_ptr<ThemeResource> theme(new ThemeResource(rootDirectory, themeName, mask));
+    theme->applySettings(settings);
+    theme->_savedSettings = std::move(settings);
+    theme->setLanguageBit(chinese);
+    return theme;
+}
+
+bool ThemeResource::hasChineseSettings(const std::string& name, const std::string& root) {
+    const KeyValues settings = readKeyValueFile(settingsFile(storeRoot(root), name));
+    const auto type = settings.find(typeKey);
+    if (type == settings.end())
+        return true;
+    const TypeMask mask = parseTypeMask(type->second);
+    return (mask & typeMask::chinese) != 0 || (mask & typeMask::otherLanguage) == 0;
+}
+
+void ThemeResource::applySettings(const KeyValues& settings) {
+    const std::string directory = _resTree->path();
+    const auto flag = [&](std::string_view package) {
+        const auto entry = settings.find(std::string(package));
+        if (entry != settings.end())
+            return entry->second == "true";
+        return isFolder(directory + std::string(dynamicIconsDirectory) + std::string(package));
+    };
+    _hasDynamicCalendar = flag(calendarPackage);
+    _hasDynamicClock = flag(clockPackage);
+    _hasDynamicWeather = flag(weatherPackage);
+    if (const auto entry = settings.find(lockWallpaperKey); entry != settings.end())
+        _amazingNode->setHasWallpaper(entry->second == "true");
+}
+
+KeyValues ThemeResource::currentSettings() const {
+    return {{std::string(calendarPackage), flagText(_hasDynamicCalendar)},
+            {std::string(clockPackage), flagText(_hasDynamicClock)},
+            {std::string(weatherPackage), flagText(_hasDynamicWeather)},
+            {lockWallpaperKey, flagText(_amazingNode->hasWallpaper())},
+            {typeKey, std::to_string(_resTree->typeMask())}};
+}
+
+bool ThemeResource::saveSettings() {
+    KeyValues settings = currentSettings();
+    const std::string path = settingsFile(_rootDirectory, _name);
+    if (settings == _savedSettings && pathExists(path))
+        return true;
+    if (!makePath(path) || !writeKeyValueFile(path, settings, Flush::toDisk))
+        return false;
+    _savedSettings = std::move(settings);
+    return true;
+}
+
+unsigned ThemeResource::version() const {
+    return generationIndex(_resTree->typeMask());
+}
+
+bool ThemeResource::isBigTheme() const {
+    return _resTree->hasAllBits(typeMask::bigTheme);
+}
+
+bool ThemeResource::isChinese() const {
+    return _resTree->hasAllBits(typeMask::chinese);
+}
+
+void ThemeResource::setBigTheme(bool big) {
+    _resTree->removeTypeBits(big ? typeMask::smallTheme : typeMask::bigTheme);
+    _resTree->addTypeBits(big ? typeMask::bigTheme : typeMask::smallTheme);
+}
+
+void ThemeResource::setLanguageBit(bool chinese) {
+    _resTree->removeTypeBits(chinese ? typeMask::otherLanguage : typeMask::chinese);
+    _resTree->addTypeBits(chinese ? typeMask::chinese : typeMask::otherLanguage);
+    refreshMasks();
+}
+
+bool ThemeResource::hasDynamicIcon(DynamicIcon icon) const {
+    switch (icon) {
+    case DynamicIcon::calendar:
+        return _hasDynamicCalendar;
+    case DynamicIcon::clock:
+        return _hasDynamicClock;
+    case DynamicIcon::weather:
+        return _hasDynamicWeather;
+    }
+    return false;
+}
+
+void ThemeResource::setDynamicIcon(DynamicIcon icon, bool has) {
+    switch (icon) {
+    case DynamicIcon::calendar:
+        _hasDynamicCalendar = has;
+        break;
+    case DynamicIcon::clock:
+        _hasDynamicClock = has;
+        break;
+    case DynamicIcon::weather:
+        _hasDynamicWeather = has;
+        break;
+    }
+}
+
+} // namespace zdt

@@ -1,0 +1,223 @@
+#pragma once
+
+#include "model/keyPath.h"
+#include "model/returnCode.h"
+#include "model/typeMask.h"
+#include "modules/description.h"
+#include "support/keyValueFile.h"
+#include "support/parallel.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace zdt {
+
+class AmazingUnlockNode;
+class FileResNode;
+class ResNode;
+class ThemeNode;
+
+/// One thing that stands in the way of an export.
+struct Problem {
+    KeyPath key;      ///< The leaf.
+    std::string path; ///< The file in question, relative to the theme directory; empty for a value.
+    int code = 0;     ///< A return code.
+};
+
+/// Why a package could not be imported.
+enum class ImportFailure {
+    none,
+    missing,     ///< There is no such file.
+    badName,     ///< The file's stem can't name a theme.
+    notAPackage, ///< No archive, a damaged one, or one without a theme's description.
+    unsafe,      ///< It holds names that lead outside, links or encrypted entries.
+    tooLarge,    ///< It holds more than any theme does.
+    incomplete,  ///< Not all that it holds could be written.
+};
+
+/// The icons that move on the phone and that a theme has or leaves out.
+enum class DynamicIcon { calendar, clock, weather };
+
+/// The store of one open theme: through it alone the rest of the system reaches the theme. It owns the resource tree,
+/// knows where the theme lies, makes new themes from the templates, and gives the calls to read and change values.
+///
+/// Changes reach disk at once: a file is copied into the theme when it is set, a text, colour or property when its
+/// block is applied. The settings are written when the store is closed, if they differ from what stands on disk.
+///
+/// Operations that an author's file or value can fail give a code of `returnCode`; a failed one leaves the theme as it
+/// was. Assertions guard against programming errors alone. Nothing here is locked.
+class ThemeResource {
+public:
+    // Without an open theme. Each takes the store root, "./" if it is empty, and refuses what can't name a theme.
+
+    /// The names of the themes, sorted.
+    [[nodiscard]] static std::vector<std::string> listThemes(const std::string& root);
+    /// Makes a theme from the template of a generation and opens it. The directory of a name that is taken stands as it
+    /// is, or is removed, with nothing copied in its place, if `overwrite` is set. Null if the name or the index above
+    /// 2 isn't allowed, the template is missing or it can't be copied whole.
+    /// @param smallTheme 0 for a big theme
+    /// @param chinese whether the theme is made under a Chinese interface; if not, the description's Chinese
+    ///        placeholders are replaced by English ones
+    [[nodiscard]] static std::unique_ptr<ThemeResource> createTheme(const std::string& name, unsigned versionIndex,
+                                                                    int smallTheme, bool overwrite, bool chinese,
+                                                                    const std::string& root);
+    /// Opens a theme. It never fails to load: what can't be read stays at its default. Null for a name that isn't
+    /// allowed. The name must not be empty.
+    /// @throws std::invalid_argument if the settings' type isn't a number of 32 bits
+    [[nodiscard]] static std::unique_ptr<ThemeResource> openTheme(const std::string& themeName, bool chinese,
+                                                                  const std::string& root);
+    /// Whether the settings of a theme say that it was made under a Chinese interface; true if they say nothing.
+    /// @throws std::invalid_argument as `openTheme`
+    [[nodiscard]] static bool hasChineseSettings(const std::string& name, const std::string& root);
+    /// Unpacks a package, verifies it and puts it in the place of a theme named by the file's stem, which `outName`
+    /// receives. A failure leaves what stood there.
+    [[nodiscard]] static bool importTheme(const std::string& packagePath, std::string& outName, const std::string& root,
+                                          ImportFailure* failure = nullptr, const Progress& progress = {});
+    /// Removes a theme and every settings file whose name begins with the theme's and "_". Nothing is undone on
+    /// failure.
+    [[nodiscard]] static bool deleteTheme(const std::string& name, const std::string& root);
+    /// The nine texts of a theme's description, empty where the file gives none.
+    [[nodiscard]] static Description readDescription(const std::string& name, const std::string& root);
+    /// The paths of the preview pictures, in directory order.
+    [[nodiscard]] static std::vector<std::string> previewFiles(const std::string& name, const std::string& root);
+    /// Bytes of all the theme's files.
+    [[nodiscard]] static std::uint64_t themeSize(const std::string& name, const std::string& root);
+
+    /// Writes the settings, if they changed, and frees the tree.
+    ~ThemeResource();
+    ThemeResource(const ThemeResource&) = delete;
+    ThemeResource& operator=(const ThemeResource&) = delete;
+
+    // What the theme is.
+
+    [[nodiscard]] ThemeNode& tree() const { return *_resTree; }
+    [[nodiscard]] AmazingUnlockNode& amazingNode() const { return *_amazingNode; }
+    [[nodiscard]] const std::string& name() const { return _name; }
+    void setName(std::string name) { _name = std::move(name); }
+    /// The generation's index: 0, 1 or 2, and 3 for a theme of none.
+    [[nodiscard]] unsigned version() const;
+    [[nodiscard]] bool isBigTheme() const;
+    [[nodiscard]] bool isChinese() const;
+    void setBigTheme(bool big);
+    void setLanguageBit(bool chinese);
+    [[nodiscard]] bool hasDynamicIcon(DynamicIcon icon) const;
+    void setDynamicIcon(DynamicIcon icon, bool has);
+    /// Writes the settings to disk now, if they differ from what stands there.
+    [[nodiscard]] bool saveSettings();
+
+    /// Moves the theme to another generation: sizes and masks follow, files that no longer fit lose their value, and a
+    /// small theme gets defaults for them.
+    void setVersion(unsigned versionIndex);
+    /// `setVersion`, and the description's version text made to agree and written. False if it can't be.
+    [[nodiscard]] bool changeGeneration(unsigned versionIndex);
+    /// Sets the masks that depend on both generation and language.
+    void refreshMasks();
+
+    // Reading and changing values. A key path names a block, and `name` a leaf in it; of namesakes the first that takes
+    // part in the theme is meant, else the first.
+
+    /// The value of a leaf that takes part in the theme; empty otherwise.
+    [[nodiscard]] std::string getValue(const KeyPath& keyPath, const std::string& name) const;
+    /// The value of the n-th of the path's namesakes, counted from 1, whether it takes part or not.
+    [[nodiscard]] std::string getValueNth(const KeyPath& keyPath, int n) const;
+    /// The leaf's own code, or -14.
+    [[nodiscard]] int setValue(const KeyPath& keyPath, const std::string& name, const std::string& value);
+    [[nodiscard]] int setValueNth(const KeyPath& keyPath, int n, const std::string& value);
+    /// Sets several leaves of a block and gives each one's code; unknown names are skipped. Without the block the
+    /// result is the one pair ("parent key", -14).
+    std::map<std::string, int> setValues(const KeyPath& keyPath, const std::map<std::string, std::string>& values);
+    /// Writes the block of a path; the description for an empty path. False if it isn't found or can't be written.
+    [[nodiscard]] bool applyNode(const KeyPath& keyPath);
+    /// Name and value of each child that takes part, of a node that takes part.
+    [[nodiscard]] std::map<std::string, std::string> childValues(const KeyPath& keyPath) const;
+    void childValues(const KeyPath& keyPath, const std::string& name, std::map<std::string, std::string>& out) const;
+    /// The same in the tree's order.
+    [[nodiscard]] std::vector<std::pair<std::string, std::string>> childPairs(const KeyPath& keyPath) const;
+    /// Removes the file that is a leaf's value and empties the value. -1 if it can't be removed, -14 without the leaf.
+    [[nodiscard]] int clearFile(const KeyPath& keyPath);
+    /// Puts a file back to the template's; -1 if the template has none.
+    [[nodiscard]] int restoreDefault(ResNode* node);
+    /// `root/config/name_fileName`; empty for an empty argument.
+    [[nodiscard]] std::string configFilePath(const std::string& fileName) const;
+    /// `root/res/name/`, or `root/tmp/name/`; empty for an empty name.
+    [[nodiscard]] std::string themeDirectory(const std::string& name, bool useTmp) const;
+    /// The node's key path joined by "/".
+    [[nodiscard]] static std::string dirPathOf(const ResNode& node);
+
+    // What the author adds. A node that was made for a file which is then refused is removed again.
+
+    /// Adds a preview picture behind the highest number of its prefix, "preview_" + module + "_", and gives its path.
+    [[nodiscard]] int addPreview(const std::string& file, const std::string& prefix, std::string& outPath);
+    /// Sets the preview picture of a number. A standing node, too, is removed if the file is refused.
+    [[nodiscard]] int setPreview(const std::string& file, const std::string& prefix, unsigned index,
+                                 std::string& outPath);
+    [[nodiscard]] int replacePreview(const std::string& newFile, const std::string& oldFile);
+    /// Removes a preview picture; -8 for the cover and the two small icons.
+    [[nodiscard]] int deletePreview(const std::string& file);
+    /// Takes the previews numbered 1 to 9 out of the tree; the files stay.
+    void removeNumberedPreviews();
+    [[nodiscard]] int addThirdPartyIcon(const std::string& file);
+    /// A code for each file's base name; the one pair ("image", -6) without the parent.
+    std::map<std::string, int> addThirdPartyIcons(const std::vector<std::string>& files);
+    [[nodiscard]] int removeThirdPartyIcon(const std::string& name);
+    /// Removes all of them and gives the last code that wasn't 0.
+    [[nodiscard]] int clearThirdPartyIcons();
+    /// Sets the background of third-party icons with an index of 0 to 99.
+    [[nodiscard]] int setIconBackground(unsigned index, const std::string& file);
+    [[nodiscard]] int removeIconBackground(unsigned index);
+    /// Stores the package of a custom lock screen, or its `ext.properties`, and makes the lock screen a custom one.
+    [[nodiscard]] int setCustomUnlockFile(const std::string& file);
+    /// Copies the values of the contacts' shared widgets to those of "launcher", "mms" or "systemui", or for "contacts"
+    /// to those of the phone applications. Texts and colours reach disk when the blocks are applied.
+    [[nodiscard]] int syncCommonSetting(const std::string& module);
+    /// -9 below 1920.
+    [[nodiscard]] int setScreenHeight(std::uint32_t height);
+
+    // Checking and writing.
+
+    /// Lists the leaves that take part in the theme and aren't fit for an export, in the tree's order. True if all are.
+    [[nodiscard]] bool checkFiles(std::vector<Problem>& outList) const;
+    /// Writes all that takes part in the theme into a directory. Stops at the first failure.
+    [[nodiscard]] bool saveTo(const std::string& directory, const Progress& progress = {});
+    /// Writes the theme as a package: description.xml, preview/, unlock/ and wallpaper/ as they are, every other folder
+    /// as an archive of its own. A package that stood at the path stays until the new one is whole.
+    [[nodiscard]] bool exportTo(const std::string& packagePath, const Progress& progress = {});
+    /// The nodes that neither a check nor a save looks at, each with all below it.
+    [[nodiscard]] std::set<ResNode*> checkDynamicIcons() const;
+
+private:
+    ThemeResource(std::string root, std::string name, TypeMask mask);
+
+    [[nodiscard]] static bool copyTemplate(const std::string& root, const std::string& name, unsigned versionIndex);
+    void applySettings(const KeyValues& settings);
+    [[nodiscard]] KeyValues currentSettings() const;
+
+    [[nodiscard]] ResNode* node(const KeyPath& keyPath) const;
+    [[nodiscard]] ResNode* leaf(const KeyPath& keyPath, const std::string& name) const;
+    [[nodiscard]] ResNode* nthNode(const KeyPath& keyPath, int n) const;
+    [[nodiscard]] int setLeaf(ResNode* leaf, const std::string& value);
+
+    void applySizeLimits(unsigned versionIndex);
+    void restoreInvalidDefaults();
+    void makeVersionTextAgree();
+
+    [[nodiscard]] int setAddedFile(ResNode& parent, std::unique_ptr<FileResNode> fresh, const std::string& file);
+    [[nodiscard]] int setNumberedPreview(const std::string& file, const std::string& name, std::string& outPath);
+    [[nodiscard]] int removeNodeFile(const ResNode& node) const;
+
+    std::unique_ptr<ThemeNode> _resTree;
+    AmazingUnlockNode* _amazingNode = nullptr; ///< A node of the tree.
+    std::string _rootDirectory;
+    std::string _name;
+    KeyValues _savedSettings; ///< As they stand on disk.
+    bool _hasDynamicCalendar = false;
+    bool _hasDynamicWeather = false;
+    bool _hasDynamicClock = false;
+};
+
+} // namespace zdt
