@@ -14,7 +14,8 @@ namespace {
 constexpr int newArchive = ZIP_CREATE | ZIP_TRUNCATE;
 
 bool addFile(zip_t* archive, const std::string& path, const std::string& entryName) {
-    zip_source_t* source = zip_source_file(archive, path.c_str(), 0, 0);
+    // libzip looks for the file only when the archive is closed, and a missing one would then cost all others.
+    zip_source_t* source = isPlainFile(path) ? zip_source_file(archive, path.c_str(), 0, 0) : nullptr;
     if (!source)
         return false;
     if (zip_file_add(archive, entryName.c_str(), source, ZIP_FL_ENC_UTF_8) >= 0)

@@ -63,8 +63,8 @@ struct FolderEntry {
     bool isFolder = false; ///< Otherwise it is a plain file.
 };
 
-/// The plain files and folders directly in a folder, in the file system's order; nothing if it can't be listed. Links to
-/// folders are left out, so that no walk leaves the tree or runs in a circle, and so are pipes and devices.
+/// The plain files and folders directly in a folder, in the file system's order; nothing if it can't be listed. Links
+/// to folders are left out, so that no walk leaves the tree or runs in a circle, and so are pipes and devices.
 [[nodiscard]] std::optional<std::vector<FolderEntry>> listEntries(const std::string& path);
 
 /// The names of the folders directly in a folder, without a trailing "/", in the file system's order.
