@@ -144,23 +144,22 @@ TEST_F(ZdtTest, TreeListsEveryNodeWithItsRules) {
     }
     EXPECT_EQ(order.front(), "unlock");
     EXPECT_EQ(order.back(), "briefinfo");
-    EXPECT_EQ(nodes["launcher/text/navigation_blackspot_normal"], json::parse(R"({
+    EXPECT_EQ(nodes["launcher/text/navigation_blackspot_normal"], json::parse(R"json({
         "key": "launcher/text/navigation_blackspot_normal", "class": "ColorTextResNode", "mask": "0xf0000007",
         "applicable": true, "value": "#4D242424", "path": "", "leaf": true,
-        "regex": "#([0-9a-fA-F]{2})?([0-9a-fA-F]{6})", "maxAlpha": 77
-})"));
+        "regex": "#([0-9a-fA-F]{2})?([0-9a-fA-F]{6})", "maxAlpha": 77})json"));
     EXPECT_EQ(nodes["launcher/image/ic_edit_share.9.png#2"]["mask"], "0xf0000004");
-EXPECT_EQ(nodes["launcher/image/ic_edit_share.9.png"]["applicable"], false);
-const json picture = nodes["wallpaper/image/home_wallpaper_0.jpg"];
-EXPECT_EQ(picture["sizes"], (json{{2160, 2161, 2160, 2161}}));
-EXPECT_EQ(picture["kinds"], 2);
-EXPECT_EQ(picture["maxBytes"], 1048576);
-EXPECT_EQ(picture["value"], store.path("res/T/wallpaper/home_wallpaper_0.jpg"));
-EXPECT_EQ(nodes["mms"]["class"], "ResNode");
-EXPECT_EQ(nodes["mms"]["leaf"], false);
-EXPECT_EQ(nodes["version"]["regex"], R"((5|8|9)\.\d\.\d+)");
-const std::string lines = run({"tree", "T"}).out;
-EXPECT_EQ(static_cast<std::size_t>(std::count(lines.begin(), lines.end(), '\n')), tree.size());
+    EXPECT_EQ(nodes["launcher/image/ic_edit_share.9.png"]["applicable"], false);
+    const json picture = nodes["wallpaper/image/home_wallpaper_0.jpg"];
+    EXPECT_EQ(picture["sizes"], (json{{2160, 2161, 2160, 2161}}));
+    EXPECT_EQ(picture["kinds"], 2);
+    EXPECT_EQ(picture["maxBytes"], 1048576);
+    EXPECT_EQ(picture["value"], store.path("res/T/wallpaper/home_wallpaper_0.jpg"));
+    EXPECT_EQ(nodes["mms"]["class"], "ResNode");
+    EXPECT_EQ(nodes["mms"]["leaf"], false);
+    EXPECT_EQ(nodes["version"]["regex"], R"((5|8|9)\.\d\.\d+)");
+    const std::string lines = run({"tree", "T"}).out;
+    EXPECT_EQ(static_cast<std::size_t>(std::count(lines.begin(), lines.end(), '\n')), tree.size());
 }
 
 TEST_F(ZdtTest, ValuesAreSetAndReadBack) {
