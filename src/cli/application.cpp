@@ -4,8 +4,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <functional>
-#include <map>
 #include <ostream>
 
 namespace zdt {
@@ -21,15 +21,43 @@ struct Arguments {
     std::string key;
     std::string file;
     std::vector<std::string> pairs;
-    unsigned generation = 0;
-    DynamicIcon icon = DynamicIcon::calendar;
-    bool on = false;
+    std::string generation;
+    std::string icon;
+    std::string onOff;
     bool small = false;
     bool english = false;
     bool replace = false;
 };
 
 using Command = std::function<int(const Context&, const Arguments&)>;
+
+const std::vector<std::string> generationWords{"5", "8", "9"};
+const std::vector<std::string> iconWords{"calendar", "clock", "weather"};
+const std::vector<std::string> switchWords{"on", "off"};
+
+/// The place of a word that was checked to be one of the words.
+unsigned placeOf(const std::string& word, const std::vector<std::string>& words) {
+    return static_cast<unsigned>(std::find(words.begin(), words.end(), word) - words.begin());
+}
+
+/// CLI11 takes an argument such as "[a,b]" apart where a list is expected. A sign in front, which no argument can begin
+/// with by accident, keeps it whole.
+constexpr char shield = '\x01';
+
+std::vector<std::string> shielded(int argc, const char* const* argv) {
+    std::vector<std::string> arguments;
+    for (int index = argc - 1; index > 0; --index) { // CLI11 wants them from the last to the first.
+        const std::string argument = argv[index];
+        const bool isBracketed = argument.starts_with('[') && argument.ends_with(']');
+        arguments.push_back(isBracketed ? shield + argument : argument);
+    }
+    return arguments;
+}
+
+void unshield(std::string& argument) {
+    if (argument.starts_with(std::string{shield, '['}))
+        argument.erase(0, 1);
+}
 
 /// The commands' grammar, and which of them was chosen.
 class Grammar {
@@ -49,7 +77,12 @@ public:
     }
 
     [[nodiscard]] CLI::App& app() { return _app; }
-    [[nodiscard]] int run() const { return _chosen(_context, _arguments); }
+    [[nodiscard]] int run() {
+        for (std::string* argument : {&_arguments.name, &_arguments.key, &_arguments.file})
+            unshield(*argument);
+        std::for_each(_arguments.pairs.begin(), _arguments.pairs.end(), unshield);
+        return _chosen(_context, _arguments);
+    }
 
 private:
     CLI::App* add(const std::string& name, const std::string& description, Command command) {
@@ -65,11 +98,10 @@ private:
         return subcommand;
     }
 
-    CLI::Option* addGeneration(CLI::App* subcommand, const std::string& option) {
-        static const std::map<std::string, unsigned> generations{{"5", 0}, {"8", 1}, {"9", 2}};
-        return subcommand->add_option(option, _arguments.generation, "5, 8 or 9")
-            ->required()
-            ->transform(CLI::IsMember(generations));
+    /// An argument that is one of a few words.
+    static void addChoice(CLI::App* subcommand, const std::string& option, std::string& choice,
+                          const std::vector<std::string>& words) {
+        subcommand->add_option(option, choice)->required()->check(CLI::IsMember(words));
     }
 
     void addThemeCommands();
@@ -87,9 +119,10 @@ void Grammar::addThemeCommands() {
 
     CLI::App* create =
         addNamed("new", "Makes a theme from a template", [](const Context& context, const Arguments& arguments) {
-            return newCommand(context, {arguments.name, arguments.generation, arguments.small, arguments.english});
+            return newCommand(context, {arguments.name, placeOf(arguments.generation, generationWords), arguments.small,
+                                        arguments.english});
         });
-    addGeneration(create, "--generation");
+    addChoice(create, "--generation", _arguments.generation, generationWords);
     create->add_flag("--small", _arguments.small, "Without the modules of single applications");
     create->add_flag("--english", _arguments.english, "For an interface in another language than Chinese");
 
@@ -97,23 +130,20 @@ void Grammar::addThemeCommands() {
              [](const Context& context, const Arguments& arguments) { return infoCommand(context, arguments.name); });
     addNamed("delete", "Removes a theme and its settings",
              [](const Context& context, const Arguments& arguments) { return deleteCommand(context, arguments.name); });
-    CLI::App* generation = addNamed("generation", "Moves a theme to another generation and lists what is missing then",
-                                    [](const Context& context, const Arguments& arguments) {
-                                        return generationCommand(context, arguments.name, arguments.generation);
-                                    });
-    addGeneration(generation, "GENERATION");
+    CLI::App* generation =
+        addNamed("generation", "Moves a theme to another generation and lists what is missing then",
+                 [](const Context& context, const Arguments& arguments) {
+                     return generationCommand(context, arguments.name, placeOf(arguments.generation, generationWords));
+                 });
+    addChoice(generation, "GENERATION", _arguments.generation, generationWords);
 
     CLI::App* dynamic = addNamed("dynamic", "Says whether a theme has the icons that move on the phone",
                                  [](const Context& context, const Arguments& arguments) {
-                                     return dynamicCommand(context, arguments.name, arguments.icon, arguments.on);
+                                     const auto icon = static_cast<DynamicIcon>(placeOf(arguments.icon, iconWords));
+                                     return dynamicCommand(context, arguments.name, icon, arguments.onOff == "on");
                                  });
-    static const std::map<std::string, DynamicIcon> icons{
-        {"calendar", DynamicIcon::calendar}, {"clock", DynamicIcon::clock}, {"weather", DynamicIcon::weather}};
-    static const std::map<std::string, bool> switches{{"on", true}, {"off", false}};
-    dynamic->add_option("ICON", _arguments.icon, "calendar, clock or weather")
-        ->required()
-        ->transform(CLI::CheckedTransformer(icons));
-    dynamic->add_option("SWITCH", _arguments.on, "on or off")->required()->transform(CLI::CheckedTransformer(switches));
+    addChoice(dynamic, "ICON", _arguments.icon, iconWords);
+    addChoice(dynamic, "SWITCH", _arguments.onOff, switchWords);
 }
 
 void Grammar::addValueCommands() {
@@ -129,11 +159,8 @@ void Grammar::addValueCommands() {
     });
     constexpr int fewest = 2;
     constexpr int most = 1 << 20;
-    set->add_option("KEY VALUE", _arguments.pairs, "Keys and values in turn")
-        ->required()
-        ->expected(fewest, most)
-        ->allow_extra_args(false); // or CLI11 takes a value such as "[a,b]" apart
-    set->final_callback([this] {
+    set->add_option("KEY VALUE", _arguments.pairs, "Keys and values in turn")->required()->expected(fewest, most);
+    set->parse_complete_callback([this] {
         if (_arguments.pairs.size() % 2 != 0)
             throw CLI::ValidationError("the key " + _arguments.pairs.back(), "has no value");
     });
@@ -176,7 +203,7 @@ int runZdt(int argc, const char* const* argv, std::ostream& out, std::ostream& e
     Context context{"./", false, out, err};
     Grammar grammar(context);
     try {
-        grammar.app().parse(argc, argv);
+        grammar.app().parse(shielded(argc, argv));
     } catch (const CLI::Success& success) { // --help and --version
         return grammar.app().exit(success, out, err);
     } catch (const CLI::ParseError& error) {

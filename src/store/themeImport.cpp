@@ -69,21 +69,6 @@ ImportFailure unpackPackage(const std::string& package, const std::string& folde
     return unpacked ? ImportFailure::none : ImportFailure::incomplete;
 }
 
-/// Puts the unpacked theme in the place of a standing one, which is kept until then.
-bool takePlace(const std::string& staging, const std::string& target) {
-    const std::string place = parentPath(target);
-    const std::string replaced = parentPath(staging) + "/replaced";
-    const std::string fresh = parentPath(staging) + "/fresh";
-    const bool stood = pathExists(place);
-    if (stood && !moveIntoPlace(place, replaced, Flush::no))
-        return false;
-    if (moveIntoPlace(fresh, place, Flush::no))
-        return true;
-    if (stood)
-        static_cast<void>(moveIntoPlace(replaced, place, Flush::no));
-    return false;
-}
-
 bool writeImportedSettings(const std::string& root, const std::string& name) {
     KeyValues settings;
     for (const std::string_view package : {weatherPackage, calendarPackage, clockPackage}) {
@@ -95,15 +80,29 @@ bool writeImportedSettings(const std::string& root, const std::string& name) {
     return makePath(file) && writeKeyValueFile(file, settings, Flush::toDisk);
 }
 
+/// Puts the unpacked theme in its place. One that stands there comes to stand where the new one was, and goes back if
+/// the settings can't be written.
+bool takePlace(const std::string& fresh, const std::string& root, const std::string& name) {
+    const std::string place = parentPath(themeFolder(root, name));
+    const bool stood = pathExists(place);
+    const auto change = [&](const std::string& from, const std::string& to) {
+        return stood ? exchangePlaces(from, to) : moveIntoPlace(from, to, Flush::no);
+    };
+    if (!makePath(place) || !change(fresh, place))
+        return false;
+    if (writeImportedSettings(root, name))
+        return true;
+    static_cast<void>(change(place, fresh));
+    return false;
+}
+
 ImportFailure importPackage(const std::string& package, const std::string& name, const std::string& root,
                             const Progress& progress) {
-    const std::string staging = stagingFolder(root, name);
-    const ImportFailure failure = unpackPackage(package, staging + "fresh/", progress);
+    const std::string fresh = stagingFolder(root, name) + "fresh";
+    const ImportFailure failure = unpackPackage(package, fresh + "/", progress);
     if (failure != ImportFailure::none)
         return failure;
-    const bool placed = makePath(themesFolder(root)) && flushFileSystem(staging) &&
-                        takePlace(staging, themeFolder(root, name)) && writeImportedSettings(root, name);
-    return placed ? ImportFailure::none : ImportFailure::incomplete;
+    return flushFileSystem(fresh) && takePlace(fresh, root, name) ? ImportFailure::none : ImportFailure::incomplete;
 }
 
 } // namespace

@@ -107,6 +107,18 @@ bool moveIntoPlace(const std::string& finished, const std::string& target, Flush
     return flush == Flush::no || flushToDisk(folderOf(target));
 }
 
+bool exchangePlaces(const std::string& first, const std::string& second) {
+    if (::renameat2(AT_FDCWD, first.c_str(), AT_FDCWD, second.c_str(), RENAME_EXCHANGE) == 0)
+        return true;
+    const std::string aside = first + ".part";
+    if (!moveIntoPlace(second, aside, Flush::no))
+        return false;
+    if (moveIntoPlace(first, second, Flush::no))
+        return moveIntoPlace(aside, first, Flush::no);
+    static_cast<void>(moveIntoPlace(aside, second, Flush::no));
+    return false;
+}
+
 bool flushFileSystem(const std::string& path) {
     return withDescriptor(path, ::syncfs);
 }

@@ -44,6 +44,9 @@ private:
 /// Puts a finished file over another on the same file system, in one step.
 [[nodiscard]] bool moveIntoPlace(const std::string& finished, const std::string& target, Flush flush);
 
+/// Lets two files or folders on the same file system change places, in one step where the file system can.
+[[nodiscard]] bool exchangePlaces(const std::string& first, const std::string& second);
+
 /// Flushes all that was written to the file system of a path to disk, at once: what a tree of many files asks for.
 [[nodiscard]] bool flushFileSystem(const std::string& path);
 
