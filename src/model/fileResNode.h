@@ -51,7 +51,7 @@ inline constexpr std::uint32_t other = 128; ///< Anything else, ".jpeg" too, and
 /// always the current state.
 class FileResNode : public ResNode {
 public:
-    static constexpr std::uint64_t defaultMaxBytes = 1024 * 1024;
+    static constexpr std::uint64_t defaultMaxBytes = 1024ULL * 1024;
 
     using ResNode::ResNode;
 

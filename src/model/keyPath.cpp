@@ -14,11 +14,13 @@ std::string joinKeyPath(const KeyPath& path) {
 
 KeyPath splitKeyPath(std::string_view text) {
     KeyPath path;
-    while (!text.empty()) {
-        const std::size_t slash = text.find('/');
+    if (text.empty())
+        return path;
+    for (std::size_t slash = text.find('/'); slash != std::string_view::npos; slash = text.find('/')) {
         path.emplace_back(text.substr(0, slash));
-        text.remove_prefix(slash == std::string_view::npos ? text.size() : slash + 1);
+        text.remove_prefix(slash + 1);
     }
+    path.emplace_back(text);
     return path;
 }
 

@@ -12,7 +12,7 @@ using KeyPath = std::vector<std::string>;
 /// The names joined by "/", the form in which a key is shown and typed.
 [[nodiscard]] std::string joinKeyPath(const KeyPath& path);
 
-/// The names between the "/" of a text; an empty text gives an empty path.
+/// The names between the "/" of a text, empty ones too; an empty text gives an empty path.
 [[nodiscard]] KeyPath splitKeyPath(std::string_view text);
 
 } // namespace zdt

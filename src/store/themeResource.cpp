@@ -28,7 +28,7 @@ TypeMask parseTypeMask(const std::string& text) {
         const unsigned long value = std::stoul(text);
         if (value <= std::numeric_limits<TypeMask>::max())
             return static_cast<TypeMask>(value);
-    } catch (const std::out_of_range&) { // Told as any other text that is no mask.
+    } catch (const std::logic_error&) { // No number, or one too large: both are told below.
     }
     throw std::invalid_argument("the type in the settings is no number: " + text);
 }

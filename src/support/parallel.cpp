@@ -38,9 +38,11 @@ bool parallelFor(std::size_t count, const std::function<bool(std::size_t)>& work
         threads.emplace_back(worker);
 
     std::unique_lock lock(mutex);
-    for (std::size_t told = 0; running > 0;) {
+    for (std::size_t told = 0; running > 0 || told < done;) {
         changed.wait(lock, [&] { return running == 0 || done > told; });
-        told = done;
+        if (told == done)
+            break;
+        ++told;
         if (progress) {
             lock.unlock();
             progress(static_cast<double>(told) / static_cast<double>(count));

@@ -1,5 +1,6 @@
 #include "common/fixtures.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -38,6 +39,14 @@ std::string TemporaryFolder::write(const std::string& below, std::string_view co
     fs::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary) << content;
     return file.string();
+}
+
+std::vector<std::string> namesIn(const std::string& folder) {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder))
+        names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
 std::string readFile(const std::string& path) {

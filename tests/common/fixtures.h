@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// What the tests of several rooms need.
 namespace zdt::test {
@@ -24,6 +25,9 @@ public:
 private:
     std::string _path;
 };
+
+/// The names of all that a folder holds, hidden things too, sorted.
+[[nodiscard]] std::vector<std::string> namesIn(const std::string& folder);
 
 /// The whole content of a file; empty if it can't be read.
 [[nodiscard]] std::string readFile(const std::string& path);

@@ -26,13 +26,17 @@ def zdt(root, *arguments):
     return subprocess.run([ZDT, "--root", root, *arguments], capture_output=True, text=True, timeout=SECONDS)
 
 
+def content(path):
+    with open(path, "rb") as file:
+        return file.read()
+
+
 def snapshot(folder):
     """Each file below a folder with its content."""
     files = {}
     for path, _, names in os.walk(folder):
         for name in names:
-            with open(os.path.join(path, name), "rb") as file:
-                files[os.path.relpath(os.path.join(path, name), folder)] = file.read()
+            files[os.path.relpath(os.path.join(path, name), folder)] = content(os.path.join(path, name))
     return files
 
 
@@ -169,15 +173,14 @@ class KillTest(StoreTest):
         self.must(root, "new", "T", "--generation", "9")
         titles = ["Old" + "o" * 3000, "New" + "n" * 3000]
         icons = [os.path.join(root, "res/T/icons", name) for name in ("com.android.mms.png", "com.android.email.png")]
-        allowed = [open(icon, "rb").read() for icon in icons]
+        allowed = [content(icon) for icon in icons]
         key = "icons/system/static/com.android.browser.png"
         run_time = self.seconds_of(root, "set", "T", "title", titles[0], key, icons[0])
         for turn in range(self.ROUNDS):
             self.run_and_kill(root, "set", "T", "title", titles[turn % 2], key, icons[turn % 2],
                               after=run_time * turn / self.ROUNDS)
             self.assertIn(self.must(root, "get", "T", "title").strip(), titles)
-            with open(self.must(root, "get", "T", key).strip(), "rb") as file:
-                self.assertIn(file.read(), allowed)
+            self.assertIn(content(self.must(root, "get", "T", key).strip()), allowed)
         self.must(root, "check", "T")
         leftovers = [name for name in snapshot(os.path.join(root, "res")) if name.endswith(".part")]
         self.assertLessEqual(len(leftovers), 1, "a file has a temporary name only while it takes its place")
