@@ -15,6 +15,8 @@ int checkCommand(const Context& context, const std::string& name) {
 
 int exportCommand(const Context& context, const std::string& name, const std::string& file) {
     const auto theme = openListed(context, name);
+    if (theme->version() == unknownGeneration)
+        throw Refusal(name, "it has no generation; \"zdt generation\" gives it one");
     std::vector<Problem> problems;
     if (!theme->checkFiles(problems))
         throw Refusal(name, "it isn't ready for an export; \"zdt check\" lists what is missing, " +

@@ -65,15 +65,20 @@ std::string AmazingUnlockNode::layoutPath(const std::string& themeDirectory, boo
 
 bool AmazingUnlockNode::save(bool /*all*/) {
     const std::string target = rootDirectory();
-    if (!parent() || target.empty())
+    if (!parent() || target.empty() || generationIndex(rootTypeMask()) == unknownGeneration)
         return false;
     if (!_readable)
         return true;
     if (target != _themeDirectory && !copyPictures(target))
         return false;
-    if (!writeLayout(layoutPath(target, _isFull), _elements))
+    const bool isGeneration5 = generationIndex(rootTypeMask()) == 0;
+    if (!writeLayout(layoutPath(target, _isFull && isGeneration5), _elements))
         return false;
-    return _fixedElements.empty() || writeLayout(layoutPath(target, false), _fixedElements);
+    if (isGeneration5)
+        return _fixedElements.empty() || writeLayout(layoutPath(target, false), _fixedElements);
+    // Later generations have one form, and a full one left behind would win over it.
+    const std::string leftBehind = layoutPath(target, true);
+    return !pathExists(leftBehind) || removeFile(leftBehind);
 }
 
 bool AmazingUnlockNode::copyPictures(const std::string& targetTheme) const {

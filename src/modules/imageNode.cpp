@@ -58,6 +58,7 @@ ImagePhoneNode::ImagePhoneNode(ResNode* parent)
 
 ImageTelecomNode::ImageTelecomNode(ResNode* parent)
     : ImageNode(parent, telecomMask, "telecom_image", parent->path()) {
+    setPath(parent->path()); // Its pictures lie in a directory of each group.
     for (const tables::PictureRow& row : {tables::telecomPicture, tables::mirroredTelecomPicture}) {
         const std::string directory = parent->path() + std::string(row.directory);
         auto& group = emplaceChild<ResNode>(telecomMask, fileName(parentPath(directory)));

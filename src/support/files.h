@@ -27,7 +27,7 @@ void normalisePath(std::string& path);
 /// `makePath` of everything up to the last "/"; false if there is none.
 [[nodiscard]] bool makeParent(const std::string& path);
 
-/// Removes a folder with all that it holds. A path that can't be listed counts as done. A link is removed as a link,
+/// Removes a folder with all that it holds. A path that is no folder counts as done. A link is removed as a link,
 /// whatever it points to. The first failure ends it.
 [[nodiscard]] bool removeTree(const std::string& path);
 

@@ -1,0 +1,72 @@
+#include "support/xmlFile.h"
+
+#include "common/fixtures.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+
+namespace zdt {
+namespace {
+
+using test::namesIn;
+using test::readFile;
+using test::TemporaryFolder;
+
+std::string nested(int levels) {
+    std::string text;
+    for (int level = 0; level < levels; ++level)
+        text += "<a>";
+    for (int level = 0; level < levels; ++level)
+        text += "</a>";
+    return text;
+}
+
+TEST(XmlFile, WhatIsNoDocumentIsRefusedAndLeavesAnEmptyOne) {
+    const TemporaryFolder folder;
+    ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0600), 0);
+    folder.write("folder/inside", "<a/>");
+    folder.write("empty", "");
+    folder.write("text", "no element");
+    folder.write("comment", "<?xml version=\"1.0\"?><!-- only -->");
+    folder.write("cut", "<resources><color name=\"a\">#ffffff</colo");
+    folder.write("crossed", "<a><b></a></b>");
+    folder.write("bomb", nested(100'000));
+    folder.write("huge", "<a/>");
+    std::filesystem::resize_file(folder.path("huge"), 16 * 1024 * 1024 + 1);
+    for (const char* name :
+         {"missing", "pipe", "folder", "empty", "text", "comment", "cut", "crossed", "bomb", "huge"}) {
+        SCOPED_TRACE(name);
+        tinyxml2::XMLDocument document;
+        startXml(document, "before");
+        EXPECT_FALSE(loadXml(document, folder.path(name)));
+        EXPECT_TRUE(document.NoChildren());
+    }
+    tinyxml2::XMLDocument document;
+    ASSERT_TRUE(loadXml(document, folder.write("deep", nested(90))));
+    EXPECT_STREQ(document.RootElement()->Name(), "a");
+}
+
+TEST(XmlFile, DocumentIsWrittenWithDeclarationAndReadBack) {
+    const TemporaryFolder folder;
+    const std::string path = folder.path("theme.xml");
+    tinyxml2::XMLDocument written;
+    tinyxml2::XMLElement& root = startXml(written, "resources");
+    addXmlElement(root, "color", "<主题 & \"x\">").SetAttribute("name", "key");
+    addXmlElement(root, "empty");
+    EXPECT_TRUE(saveXml(written, path));
+    EXPECT_TRUE(readFile(path).starts_with("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"));
+    EXPECT_EQ(namesIn(folder.path()).size(), 1U);
+
+    tinyxml2::XMLDocument document;
+    ASSERT_TRUE(loadXml(document, path));
+    const tinyxml2::XMLElement* colour = document.RootElement()->FirstChildElement();
+    EXPECT_STREQ(colour->GetText(), "<主题 & \"x\">");
+    EXPECT_STREQ(colour->Attribute("name"), "key");
+    EXPECT_EQ(colour->NextSiblingElement()->GetText(), nullptr);
+    EXPECT_FALSE(saveXml(written, folder.path("missing/theme.xml")));
+}
+
+} // namespace
+} // namespace zdt
