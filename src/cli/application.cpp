@@ -1,6 +1,7 @@
 #include "cli/application.h"
 
 #include "cli/commands.h"
+#include "support/text.h"
 
 #include <CLI/CLI.hpp>
 
@@ -188,11 +189,19 @@ void Grammar::addPackageCommands() {
     importing->add_flag("--replace", _arguments.replace, "Takes the place of a theme of that name");
 }
 
-/// Messages of one line, whatever the arguments hold.
+/// A message of one line that a terminal can show, whatever the arguments hold.
 std::string oneLine(std::string text) {
+    constexpr std::size_t longest = 2000;
+    std::erase(text, shield);
+    if (text.size() > longest)
+        text.resize(longest);
+    const bool isText = isUtf8(text);
     for (char& c : text) {
-        if (c == '\n' || c == '\r')
+        const auto byte = static_cast<unsigned char>(c);
+        if (c == '\n')
             c = ' ';
+        else if (byte < 0x20 || byte == 0x7f || (byte >= 0x80 && !isText))
+            c = '?';
     }
     return text;
 }
@@ -207,13 +216,18 @@ int runZdt(int argc, const char* const* argv, std::ostream& out, std::ostream& e
     } catch (const CLI::Success& success) { // --help and --version
         return grammar.app().exit(success, out, err);
     } catch (const CLI::ParseError& error) {
-        err << "zdt: usage: " << oneLine(error.what()) << '\n';
+        const std::vector<std::string> unknown = grammar.app().remaining();
+        const bool noCommand = grammar.app().get_subcommands().empty() && !unknown.empty();
+        err << "zdt: usage: " << oneLine(noCommand ? "there is no command " + unknown.front() : error.what()) << '\n';
         return usageStatus;
     }
     try {
-        return grammar.run();
+        const int status = grammar.run();
+        if (!out.flush())
+            throw Refusal("standard output", "it couldn't be written");
+        return status;
     } catch (const Refusal& refusal) {
-        err << "zdt: " << oneLine(refusal.what()) << '\n';
+        err << (context.midLine ? "\n" : "") << "zdt: " << oneLine(refusal.what()) << '\n';
         return refusedStatus;
     }
 }

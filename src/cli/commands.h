@@ -1,7 +1,9 @@
 #pragma once
 
 #include "cli/output.h"
+#include "store/storeLock.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -31,6 +33,18 @@ int resetCommand(const Context& context, const std::string& name, const std::str
 int checkCommand(const Context& context, const std::string& name);
 int exportCommand(const Context& context, const std::string& name, const std::string& file);
 int importCommand(const Context& context, const std::string& file, bool replace);
+
+/// Refuses a name that isn't among the themes.
+void requireListed(const Context& context, const std::string& name);
+
+/// Keeps other runs of the program from changing the store's themes.
+class ChangeLock {
+public:
+    explicit ChangeLock(const Context& context);
+
+private:
+    StoreLock _lock;
+};
 
 /// Opens a theme that stands under the store root, with the language that its settings tell.
 [[nodiscard]] std::unique_ptr<ThemeResource> openListed(const Context& context, const std::string& name);

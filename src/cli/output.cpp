@@ -9,6 +9,21 @@
 
 namespace zdt {
 
+namespace {
+
+std::string escapeLineBreaks(const std::string& line) {
+    std::string escaped;
+    for (const char c : line) {
+        if (c == '\n')
+            escaped += "\\n";
+        else
+            escaped += c;
+    }
+    return escaped;
+}
+
+} // namespace
+
 Refusal::Refusal(const std::string& what, int code)
     : std::runtime_error(what + ": " + wordsFor(code) + " (" + std::to_string(code) + ")") {}
 
@@ -19,11 +34,14 @@ void Context::print(const Json& document, const std::vector<std::string>& lines)
         return;
     }
     for (const std::string& line : lines)
-        out << line << '\n';
+        out << escapeLineBreaks(line) << '\n';
 }
 
 void Context::print(const std::string& text) const {
-    print(Json(text), {text});
+    if (json)
+        print(Json(text), {});
+    else
+        out << text << '\n';
 }
 
 Progress Context::progress(const std::string& label) const {
@@ -34,7 +52,8 @@ Progress Context::progress(const std::string& label) const {
         if (percent == shown)
             return;
         shown = percent;
-        err << '\r' << label << ' ' << percent << " %" << (percent == 100 ? "\n" : "") << std::flush;
+        midLine = percent != 100;
+        err << '\r' << label << ' ' << percent << " %" << (midLine ? "" : "\n") << std::flush;
     };
 }
 
@@ -42,11 +61,11 @@ bool printProblems(const Context& context, const std::vector<Problem>& problems)
     Json list = Json::array();
     std::vector<std::string> lines;
     for (const Problem& problem : problems) {
-        const std::string key = joinKeyPath(problem.key);
         const std::string reason = wordsFor(problem.code);
-        list.push_back({{"key", key}, {"path", problem.path}, {"code", problem.code}, {"reason", reason}});
+        list.push_back({{"key", problem.key}, {"path", problem.path}, {"code", problem.code}, {"reason", reason}});
         const std::string file = problem.path.empty() ? std::string() : " [" + problem.path + "]";
-        lines.push_back(key + ": " + reason + " (" + std::to_string(problem.code) + ")" + file);
+        lines.push_back((problem.key.empty() ? "description" : problem.key) + ": " + reason + " (" +
+                        std::to_string(problem.code) + ")" + file);
     }
     context.print(list, lines);
     return !problems.empty();

@@ -29,8 +29,9 @@ struct Context {
     bool json = false;       ///< The result as one JSON document.
     std::ostream& out;
     std::ostream& err;
+    mutable bool midLine = false; ///< A progress stands on an unfinished line of `err`.
 
-    /// Prints a result: the document, or else the lines.
+    /// Prints a result: the document, or else the lines. A line break inside a line shows as "\n".
     void print(const Json& document, const std::vector<std::string>& lines) const;
     /// Prints a result that is one text.
     void print(const std::string& text) const;

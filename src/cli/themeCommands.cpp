@@ -1,6 +1,8 @@
 #include "cli/commands.h"
+#include "model/template.h"
 #include "modules/themeNode.h"
 #include "store/themeLayout.h"
+#include "support/files.h"
 
 #include <algorithm>
 #include <array>
@@ -16,11 +18,6 @@ constexpr const char* settingsNotWritten = "its settings couldn't be written";
 bool isListed(const Context& context, const std::string& name) {
     const std::vector<std::string> names = ThemeResource::listThemes(context.root);
     return std::find(names.begin(), names.end(), name) != names.end();
-}
-
-void saveSettingsOf(ThemeResource& theme) {
-    if (!theme.saveSettings())
-        throw Refusal(theme.name(), settingsNotWritten);
 }
 
 const char* generationName(unsigned index) {
@@ -40,9 +37,19 @@ std::string maskText(TypeMask mask) {
     return text.data();
 }
 
-std::unique_ptr<ThemeResource> openListed(const Context& context, const std::string& name) {
+void requireListed(const Context& context, const std::string& name) {
     if (!isListed(context, name))
         throw Refusal(name, "there is no theme of that name");
+}
+
+ChangeLock::ChangeLock(const Context& context)
+    : _lock(themesFolder(storeRoot(context.root))) {
+    if (!_lock.isHeld())
+        throw Refusal(context.root, "the store can't be written to");
+}
+
+std::unique_ptr<ThemeResource> openListed(const Context& context, const std::string& name) {
+    requireListed(context, name);
     try {
         return ThemeResource::openTheme(name, ThemeResource::hasChineseSettings(name, context.root), context.root);
     } catch (const std::invalid_argument& error) {
@@ -51,6 +58,8 @@ std::unique_ptr<ThemeResource> openListed(const Context& context, const std::str
 }
 
 int listCommand(const Context& context) {
+    if (!isFolder(context.root))
+        throw Refusal(context.root, "there is no such folder");
     const std::vector<std::string> names = ThemeResource::listThemes(context.root);
     context.print(names, names);
     return 0;
@@ -59,14 +68,19 @@ int listCommand(const Context& context) {
 int newCommand(const Context& context, const NewTheme& request) {
     if (!isThemeName(request.name))
         throw Refusal(request.name, returnCode::notAllowed);
+    const ChangeLock lock(context);
     if (isListed(context, request.name))
         throw Refusal(request.name, "there is a theme of that name already");
-    const auto theme = ThemeResource::createTheme(request.name, request.versionIndex, request.small ? 1 : 0, false,
-                                                  !request.english, context.root);
+    const std::string source = locateTemplate(storeRoot(context.root), request.versionIndex);
+    if (!isFolder(source))
+        throw Refusal(request.name, "there is no template " + source);
+    auto theme = ThemeResource::createTheme(request.name, request.versionIndex, request.small ? 1 : 0, false,
+                                            !request.english, context.root);
     if (!theme)
-        throw Refusal(request.name, "the template is missing, or it couldn't be copied");
+        throw Refusal(request.name, "the template couldn't be copied into the store");
     if (!theme->saveSettings()) {
         // Without its settings a small theme would open as a big one.
+        theme.reset();
         static_cast<void>(ThemeResource::deleteTheme(request.name, context.root));
         throw Refusal(request.name, settingsNotWritten);
     }
@@ -105,18 +119,19 @@ int infoCommand(const Context& context, const std::string& name) {
 }
 
 int deleteCommand(const Context& context, const std::string& name) {
-    if (!isListed(context, name))
-        throw Refusal(name, "there is no theme of that name");
+    requireListed(context, name);
+    const ChangeLock lock(context);
     if (!ThemeResource::deleteTheme(name, context.root))
         throw Refusal(name, "not all of it could be removed");
     return 0;
 }
 
 int generationCommand(const Context& context, const std::string& name, unsigned versionIndex) {
+    requireListed(context, name);
+    const ChangeLock lock(context);
     const auto theme = openListed(context, name);
     if (!theme->changeGeneration(versionIndex))
-        throw Refusal(name, "its description couldn't be written");
-    saveSettingsOf(*theme);
+        throw Refusal(name, "its description or settings couldn't be written");
     std::vector<Problem> problems;
     static_cast<void>(theme->checkFiles(problems));
     printProblems(context, problems);
@@ -124,9 +139,12 @@ int generationCommand(const Context& context, const std::string& name, unsigned 
 }
 
 int dynamicCommand(const Context& context, const std::string& name, DynamicIcon icon, bool has) {
+    requireListed(context, name);
+    const ChangeLock lock(context);
     const auto theme = openListed(context, name);
     theme->setDynamicIcon(icon, has);
-    saveSettingsOf(*theme);
+    if (!theme->saveSettings())
+        throw Refusal(name, settingsNotWritten);
     return 0;
 }
 

@@ -1,8 +1,8 @@
 #include "cli/commands.h"
-#include "cli/keyText.h"
 #include "model/fileResNode.h"
 #include "model/textResNode.h"
 #include "modules/themeNode.h"
+#include "store/keyText.h"
 #include "support/text.h"
 
 #include <cxxabi.h>
@@ -59,6 +59,16 @@ Key requireKey(const ThemeResource& theme, const std::string& text) {
     return key;
 }
 
+/// Refuses what an XML file doesn't give back as it was written.
+void requireKeepable(const std::string& key, const std::string& value) {
+    if (!isUtf8(value))
+        throw Refusal(key, "the value isn't UTF-8");
+    if (!isXmlText(value))
+        throw Refusal(key, "the value holds a control character");
+    if (!value.empty() && value.find_first_not_of(" \t\n") == std::string::npos)
+        throw Refusal(key, "the value is nothing but blanks");
+}
+
 void setOne(ThemeResource& theme, const std::string& text, const std::string& value, std::vector<KeyPath>& touched) {
     if (text == "unlock/config" || text.starts_with("unlock/config/"))
         throw Refusal(text, "it follows the kind of lock screen");
@@ -66,23 +76,22 @@ void setOne(ThemeResource& theme, const std::string& text, const std::string& va
     const bool isText = dynamic_cast<const TextResNode*>(key.node) != nullptr;
     if (!isText && !dynamic_cast<const FileResNode*>(key.node))
         throw Refusal(text, "it isn't a single value");
-    if (isText && !isUtf8(value))
-        throw Refusal(text, "the value isn't UTF-8");
-    KeyPath namesakes = key.block;
-    namesakes.push_back(key.name);
-    const int code =
-        key.number > 0 ? theme.setValueNth(namesakes, key.number, value) : theme.setValue(key.block, key.name, value);
+    if (isText)
+        requireKeepable(text, value);
+    const int code = key.number > 0 ? theme.setValueNth(key.namesakes(), key.number, value)
+                                    : theme.setValue(key.block, key.name, value);
     if (code != returnCode::success)
         throw Refusal(text, code);
     if (isText && std::find(touched.begin(), touched.end(), key.block) == touched.end())
         touched.push_back(key.block);
 }
 
+/// Applies all of them, and then tells the first that failed.
 void applyBlocks(ThemeResource& theme, const std::vector<KeyPath>& blocks) {
-    for (const KeyPath& block : blocks) {
-        if (!theme.applyNode(block))
-            throw Refusal(block.empty() ? "description" : joinKeyPath(block), "it couldn't be written");
-    }
+    std::vector<KeyPath> failed = blocks;
+    std::erase_if(failed, [&](const KeyPath& block) { return theme.applyNode(block); });
+    if (!failed.empty())
+        throw Refusal(failed.front().empty() ? "description" : joinKeyPath(failed.front()), "it couldn't be written");
 }
 
 } // namespace
@@ -110,6 +119,8 @@ int getCommand(const Context& context, const std::string& name, const std::strin
 }
 
 int setCommand(const Context& context, const std::string& name, const std::vector<std::string>& pairs) {
+    requireListed(context, name);
+    const ChangeLock lock(context);
     const auto theme = openListed(context, name);
     std::vector<KeyPath> touched;
     try {
@@ -124,6 +135,8 @@ int setCommand(const Context& context, const std::string& name, const std::vecto
 }
 
 int resetCommand(const Context& context, const std::string& name, const std::string& key) {
+    requireListed(context, name);
+    const ChangeLock lock(context);
     const auto theme = openListed(context, name);
     ResNode* node = requireKey(*theme, key).node;
     if (!dynamic_cast<const FileResNode*>(node))

@@ -7,7 +7,7 @@ std::string wordsFor(int code) {
     case returnCode::cannotRemove:
         return "there is no default to restore, or the file couldn't be removed";
     case returnCode::missingFile:
-        return "the file doesn't exist";
+        return "the file doesn't exist, or it is no plain file";
     case returnCode::copyFailed:
         return "the file couldn't be copied into the theme";
     case returnCode::sameFile:
@@ -38,6 +38,8 @@ std::string wordsFor(int code) {
         return "the picture's dimensions aren't allowed";
     case returnCode::unreadablePicture:
         return "the picture's dimensions couldn't be read";
+    case returnCode::damagedFile:
+        return "the file is damaged and can't be read";
     default:
         return "it can't be done";
     }

@@ -50,7 +50,7 @@ AmazingUnlockNode::AmazingUnlockNode(ResNode* parent)
     _isFull = pathExists(layoutPath(_themeDirectory, true));
     _readable = readLayout(layoutPath(_themeDirectory, _isFull), _elements);
     if (_isFull)
-        static_cast<void>(readLayout(layoutPath(_themeDirectory, false), _fixedElements));
+        _isFixedReadable = readLayout(layoutPath(_themeDirectory, false), _fixedElements);
     for (const auto& element : _elements) {
         if (auto* wallpaper = dynamic_cast<LockWallPaper*>(element.get())) {
             wallpaper->lookUpFiles(_themeDirectory + drawableDirectory);
@@ -98,6 +98,8 @@ std::vector<std::string> AmazingUnlockNode::missingFiles() const {
     std::vector<std::string> missing;
     if (!_readable)
         addMissing(missing, layoutPath({}, _isFull));
+    if (!_isFixedReadable && generationIndex(rootTypeMask()) == 0)
+        addMissing(missing, layoutPath({}, false));
     for (const auto& element : _elements)
         collectMissing(*element, _themeDirectory, missing);
     return missing;

@@ -47,6 +47,7 @@ private:
     LayoutElements _fixedElements; ///< The form for a fixed height, as read, beside a full one.
     bool _isFull = false;
     bool _readable = false;
+    bool _isFixedReadable = true;
     bool _hasWallpaper = false;
 };
 

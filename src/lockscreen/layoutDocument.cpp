@@ -10,6 +10,8 @@ namespace zdt {
 
 namespace {
 
+constexpr const char* rootTag = "layout";
+
 std::unique_ptr<AmazingChild> makeElement(const tinyxml2::XMLElement& element) {
     if (std::string_view(element.Name()) == "unlocker")
         return std::make_unique<UnlockerData>(&element);
@@ -27,6 +29,8 @@ bool readLayout(const std::string& path, LayoutElements& elements) {
     if (!loadXml(document, path))
         return false;
     const tinyxml2::XMLElement* root = document.RootElement();
+    if (std::string_view(root->Name()) != rootTag)
+        return false;
     for (const auto* element = root->FirstChildElement(); element; element = element->NextSiblingElement())
         elements.push_back(makeElement(*element));
     return true;
@@ -34,7 +38,7 @@ bool readLayout(const std::string& path, LayoutElements& elements) {
 
 bool writeLayout(const std::string& path, const LayoutElements& elements) {
     tinyxml2::XMLDocument document;
-    tinyxml2::XMLElement& root = startXml(document, "layout");
+    tinyxml2::XMLElement& root = startXml(document, rootTag);
     root.SetAttribute("frameRate", "30");
     root.SetAttribute("version", "3.0");
     root.SetAttribute("screenwidth", "1080");

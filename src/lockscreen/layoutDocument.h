@@ -13,7 +13,7 @@ namespace zdt {
 using LayoutElements = std::vector<std::unique_ptr<AmazingChild>>;
 
 /// Reads the elements, each as the class that stands for it. False, with no elements, for a file that is missing, isn't
-/// well formed or nests deeper than any layout.
+/// well formed, nests deeper than any layout or has another root.
 [[nodiscard]] bool readLayout(const std::string& path, LayoutElements& elements);
 
 /// Writes the elements, making the folder. The file is written whole or not at all.

@@ -1,9 +1,9 @@
 #include "lockscreen/unlockConfigNode.h"
 
+#include "lockscreen/unlockNode.h"
 #include "model/textResNode.h"
 #include "support/assertion.h"
 #include "support/files.h"
-#include "support/xmlFile.h"
 
 #include <algorithm>
 #include <array>
@@ -59,10 +59,14 @@ bool isWritten(std::string_view attribute, const std::string& type, bool isGener
 
 } // namespace
 
-std::string readUnlockType(const std::string& themeDirectory) {
+std::string readUnlockType(const std::string& themeDirectory, DamagedXml& damaged) {
     tinyxml2::XMLDocument document;
-    if (themeDirectory.empty() || !loadXml(document, themeDirectory + configFile))
+    if (themeDirectory.empty())
         return {};
+    if (!loadXml(document, themeDirectory + configFile)) {
+        damaged.note(themeDirectory + configFile);
+        return {};
+    }
     std::map<std::string, std::string> items;
     const tinyxml2::XMLElement* root = document.RootElement();
     for (const auto* item = root->FirstChildElement("item"); item; item = item->NextSiblingElement("item")) {
@@ -102,8 +106,10 @@ bool UnlockConfigNode::save(bool all) {
         const std::string value = attribute == styleKey ? styleOf(child->value()) : child->value();
         addXmlElement(root, "item").SetAttribute(attribute.c_str(), value.c_str());
     }
-    const std::string directory = rootDirectory();
-    return !directory.empty() && makePath(directory + configFile) && saveXml(document, directory + configFile);
+    const std::string file = rootDirectory() + configFile;
+    auto* unlock = dynamic_cast<UnlockNode*>(parent());
+    return !rootDirectory().empty() && makePath(file) && (!unlock || unlock->damaged().keepFrom(file)) &&
+           saveXml(document, file);
 }
 
 } // namespace zdt

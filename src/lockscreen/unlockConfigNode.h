@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/resNode.h"
+#include "support/xmlFile.h"
 
 #include <string>
 
@@ -32,7 +33,8 @@ public:
     [[nodiscard]] bool save(bool all) override;
 };
 
-/// The kind of lock screen that the file `unlock/theme.xml` of a theme says; empty if it can't be read.
-[[nodiscard]] std::string readUnlockType(const std::string& themeDirectory);
+/// The kind of lock screen that the file `unlock/theme.xml` of a theme says; empty if it can't be read, and then it is
+/// noted in `damaged`.
+[[nodiscard]] std::string readUnlockType(const std::string& themeDirectory, DamagedXml& damaged);
 
 } // namespace zdt

@@ -10,7 +10,7 @@ namespace zdt {
 UnlockNode::UnlockNode(ResNode* parent)
     : ResNode(parent, typeMask::everywhere, "unlock") {
     setPath("unlock/");
-    setRawValue(readUnlockType(rootDirectory()));
+    setRawValue(readUnlockType(rootDirectory(), _damaged));
     emplaceChild<UnlockConfigNode>();
     emplaceChild<VideoUnlockNode>();
     emplaceChild<AmazingUnlockNode>();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/resNode.h"
+#include "support/xmlFile.h"
 
 #include <string>
 
@@ -14,6 +15,13 @@ public:
 
     /// Sets the kind, here and in the child `config`. -1 if that is missing. The file follows when it is saved.
     [[nodiscard]] int setValue(const std::string& value) override;
+
+    /// Whether the theme has the file but it couldn't be read.
+    [[nodiscard]] bool isDamaged() const { return !_damaged.path().empty(); }
+    [[nodiscard]] DamagedXml& damaged() { return _damaged; }
+
+private:
+    DamagedXml _damaged;
 };
 
 } // namespace zdt

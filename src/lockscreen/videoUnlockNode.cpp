@@ -54,8 +54,10 @@ VideoUnlockConfig::VideoUnlockConfig(ResNode* parent)
     KeyValues properties{{role.key, role.defaultFile}, {"video_mode", "1"}};
     for (const auto& [key, value] : readProperties(nodeDirectory()))
         properties[key] = value;
-    for (const auto& [key, value] : properties)
-        adopt(std::make_unique<TextResNode>(key, value));
+    for (const auto& [key, value] : properties) {
+        // The file can hold neither an empty value nor a line break.
+        adopt(std::make_unique<TextResNode>(key, value)).setRegex(".+");
+    }
 }
 
 bool VideoUnlockConfig::save(bool all) {

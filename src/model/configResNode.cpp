@@ -3,7 +3,6 @@
 #include "model/textResNode.h"
 #include "support/assertion.h"
 #include "support/files.h"
-#include "support/xmlFile.h"
 
 #include <algorithm>
 #include <memory>
@@ -79,11 +78,18 @@ const std::string& ConfigResNode::typeOf(const std::string& key) const {
     return entry == _typeMap.end() ? _defaultType : entry->second;
 }
 
-void ConfigResNode::readFile() {
+std::string ConfigResNode::filePath() const {
     const std::string directory = nodeDirectory();
+    return directory.empty() ? std::string() : directory + "theme.xml";
+}
+
+void ConfigResNode::readFile() {
+    const std::string path = filePath();
     tinyxml2::XMLDocument document;
-    if (directory.empty() || !loadXml(document, directory + "theme.xml"))
+    if (path.empty() || !loadXml(document, path)) {
+        _damaged.note(path);
         return;
+    }
     const tinyxml2::XMLElement* root = document.RootElement();
     _rootElement = root->Name();
     std::map<std::string, std::string> values;
@@ -101,8 +107,8 @@ void ConfigResNode::readFile() {
 }
 
 bool ConfigResNode::save(bool all) {
-    const std::string directory = nodeDirectory();
-    if (directory.empty())
+    const std::string path = filePath();
+    if (path.empty())
         return false;
     tinyxml2::XMLDocument document;
     tinyxml2::XMLElement& root = startXml(document, _rootElement);
@@ -114,7 +120,7 @@ bool ConfigResNode::save(bool all) {
         if (!nodeName.empty())
             addXmlElement(root, nodeName, child->value()).SetAttribute("name", child->name().c_str());
     }
-    return root.NoChildren() || (makePath(directory) && saveXml(document, directory + "theme.xml"));
+    return root.NoChildren() || (makePath(path) && _damaged.keepFrom(path) && saveXml(document, path));
 }
 
 } // namespace zdt

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/resNode.h"
+#include "support/xmlFile.h"
 
 #include <map>
 #include <string>
@@ -33,16 +34,22 @@ public:
     /// and its code in the child's errors.
     ConfigResNode(ResNode* parent, TypeMask mask, std::string name, ConfigBlock block);
 
-    /// Writes the file, making the directory, if there is a value to write. False if that fails.
+    /// Writes the file, making the directory, if there is a value to write. A file that couldn't be read is kept aside.
+    /// False if that fails.
     [[nodiscard]] bool save(bool all) override;
+
+    /// Whether the theme has the file but it couldn't be read.
+    [[nodiscard]] bool isDamaged() const { return !_damaged.path().empty(); }
 
 private:
     void readFile();
+    [[nodiscard]] std::string filePath() const;
     [[nodiscard]] const std::string& typeOf(const std::string& key) const;
 
     std::string _rootElement;
     std::string _defaultType;
     std::map<std::string, std::string> _typeMap;
+    DamagedXml _damaged;
 };
 
 /// Joins ordered lists into one order that keeps each list's own, as far as they agree: (a, b, c) and (a, x, c) give

@@ -27,6 +27,8 @@ inline constexpr TypeMask bigOnly = everywhere & ~smallTheme;      ///< 0x700000
 
 /// How many generations there are; an index below it names one.
 inline constexpr unsigned generationCount = 3;
+/// The index of the generation with tall screens, which asks for other sizes than the ones before it.
+inline constexpr unsigned generation9Index = 2;
 /// The index of a theme whose mask holds no generation.
 inline constexpr unsigned unknownGeneration = 3;
 

@@ -1,16 +1,25 @@
 #include "modules/description.h"
 
-#include "support/xmlFile.h"
+#include "model/typeMask.h"
 
 #include <algorithm>
 
 namespace zdt {
 
-Description readDescriptionFile(const std::string& path) {
+unsigned generationOfVersion(std::string_view version) {
+    if (version.empty())
+        return unknownGeneration;
+    return version.front() == '5' ? 0 : version.front() == '8' ? 1 : generation9Index;
+}
+
+Description readDescriptionFile(const std::string& path, DamagedXml* damaged) {
     Description description;
     tinyxml2::XMLDocument document;
-    if (!loadXml(document, path))
+    if (!loadXml(document, path)) {
+        if (damaged)
+            damaged->note(path);
         return description;
+    }
     for (const auto* element = document.RootElement()->FirstChildElement(); element;
          element = element->NextSiblingElement()) {
         const std::string_view name = element->Name();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/xmlFile.h"
+
 #include <array>
 #include <map>
 #include <string>
@@ -31,10 +33,15 @@ inline constexpr std::array<DescriptionField, 9> descriptionFields{{
     {"briefinfo", "", ""},
 }};
 
+/// The generation's index that a version text tells: 0 for a first sign "5", 1 for "8", 2 for any other; 3 for an empty
+/// text.
+[[nodiscard]] unsigned generationOfVersion(std::string_view version);
+
 using Description = std::map<std::string, std::string>;
 
 /// The fields that a file names. A field whose element holds no text is there with an empty value; unknown elements are
-/// left out; of two texts for one field the later one counts. Empty for an unreadable file.
-[[nodiscard]] Description readDescriptionFile(const std::string& path);
+/// left out; of two texts for one field the later one counts. Empty for an unreadable file, which is noted in
+/// `damaged`.
+[[nodiscard]] Description readDescriptionFile(const std::string& path, DamagedXml* damaged = nullptr);
 
 } // namespace zdt

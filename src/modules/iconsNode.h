@@ -2,6 +2,7 @@
 
 #include "model/resNode.h"
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,7 @@ inline constexpr std::string_view dynamicIconsDirectory = "icons/dynamic_icons/"
 inline constexpr std::string_view calendarPackage = "com.android.calendar";
 inline constexpr std::string_view clockPackage = "com.android.deskclock";
 inline constexpr std::string_view weatherPackage = "com.zendro.android.totemweather";
+inline constexpr std::array<std::string_view, 3> dynamicIconPackages{calendarPackage, clockPackage, weatherPackage};
 
 /// Icons of the phone's own applications: a PNG each.
 class StaticSystemNode : public ResNode {

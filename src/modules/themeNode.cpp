@@ -9,7 +9,6 @@
 #include "modules/previewNode.h"
 #include "modules/wallpaperNode.h"
 #include "support/files.h"
-#include "support/xmlFile.h"
 
 namespace zdt {
 
@@ -33,7 +32,7 @@ ThemeNode::ThemeNode(TypeMask mask, const std::string& directory)
 void ThemeNode::addDescription() {
     Description description;
     if (!path().empty())
-        description = readDescriptionFile(path() + std::string(descriptionFile));
+        description = readDescriptionFile(path() + std::string(descriptionFile), &_damaged);
     for (const DescriptionField& field : descriptionFields) {
         const std::string key(field.key);
         const std::string& written = description[key];
@@ -52,7 +51,8 @@ bool ThemeNode::save(bool /*all*/) {
         if (child->isLeaf())
             addXmlElement(root, child->name(), child->value());
     }
-    return saveXml(document, path() + std::string(descriptionFile));
+    const std::string file = path() + std::string(descriptionFile);
+    return _damaged.keepFrom(file) && saveXml(document, file);
 }
 
 } // namespace zdt

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/resNode.h"
+#include "support/xmlFile.h"
 
 #include <string>
 
@@ -17,8 +18,13 @@ public:
     /// Writes description.xml from the root's childless text nodes. False without a directory.
     [[nodiscard]] bool save(bool all) override;
 
+    /// Whether the theme has a description but it couldn't be read.
+    [[nodiscard]] bool isDescriptionDamaged() const { return !_damaged.path().empty(); }
+
 private:
     void addDescription();
+
+    DamagedXml _damaged;
 };
 
 } // namespace zdt

@@ -36,7 +36,8 @@ ArchiveVerdict inspectEntry(zip_t* archive, zip_uint64_t index, UnpackBudget& bu
 
 bool isSafeEntryName(std::string_view name) {
     const bool hasDrive = name.size() > 1 && name[1] == ':';
-    if (name.empty() || name.front() == '/' || hasDrive || name.find('\\') != std::string_view::npos || !isUtf8(name))
+    if (name.empty() || name.front() == '/' || hasDrive || name.find('\\') != std::string_view::npos ||
+        !isXmlText(name))
         return false;
     while (!name.empty()) {
         const std::size_t slash = name.find('/');

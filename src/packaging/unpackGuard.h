@@ -24,7 +24,7 @@ enum class ArchiveVerdict {
 [[nodiscard]] ArchiveVerdict inspectArchive(const std::string& archivePath, UnpackBudget& budget);
 
 /// Whether an entry's name stays below the folder into which it is unpacked: relative, with no part "..", no "\", no
-/// drive letter, and UTF-8.
+/// drive letter, and UTF-8 with no control characters.
 [[nodiscard]] bool isSafeEntryName(std::string_view name);
 
 } // namespace zdt

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdio>
 #include <memory>
+#include <optional>
 
 namespace zdt {
 
@@ -110,12 +111,11 @@ bool ZipFileList(const std::vector<std::string>& filePaths, const std::string& a
 
 bool UnzipToFolder(const std::string& archivePath, const std::string& destinationFolder) {
     UnpackBudget budget;
-    return UnzipToFolder(archivePath, destinationFolder, budget);
+    return !archivePath.empty() && inspectArchive(archivePath, budget) == ArchiveVerdict::good &&
+           unpackInspected(archivePath, destinationFolder);
 }
 
-bool UnzipToFolder(const std::string& archivePath, const std::string& destinationFolder, UnpackBudget& budget) {
-    if (archivePath.empty() || inspectArchive(archivePath, budget) != ArchiveVerdict::good)
-        return false;
+bool unpackInspected(const std::string& archivePath, const std::string& destinationFolder) {
     ArchivePointer archive = openArchive(archivePath, ZIP_RDONLY);
     if (!archive)
         return false;

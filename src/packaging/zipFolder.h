@@ -35,9 +35,8 @@ namespace zdt {
 /// Unpacks an archive that `inspectArchive` finds good. False, with nothing written, for any other; false if a folder
 /// can't be made. A file that can't be written is left out silently: `holdsAllOf` tells.
 [[nodiscard]] bool UnzipToFolder(const std::string& archivePath, const std::string& destinationFolder);
-/// The same against a budget that several archives share.
-[[nodiscard]] bool UnzipToFolder(const std::string& archivePath, const std::string& destinationFolder,
-                                 UnpackBudget& budget);
+/// The same for an archive that was inspected before.
+[[nodiscard]] bool unpackInspected(const std::string& archivePath, const std::string& destinationFolder);
 
 /// Writes one entry to a file, making its folder. An entry that can't be read whole leaves no file.
 void UnzipEntryToFile(zip* archive, std::uint64_t index, const std::string& destinationPath);

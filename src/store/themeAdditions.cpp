@@ -1,4 +1,3 @@
-#include "lockscreen/amazingUnlockNode.h"
 #include "lockscreen/customUnlockNode.h"
 #include "lockscreen/unlockConfigNode.h"
 #include "model/fileResNode.h"
@@ -54,8 +53,6 @@ unsigned nextPreviewNumber(const ResNode& preview, const std::string& prefix) {
 
 } // namespace
 
-/// Sets a file on the child of its name, which is made from `fresh` if there is none and then removed again if the file
-/// is refused.
 int ThemeResource::setAddedFile(ResNode& parent, std::unique_ptr<FileResNode> fresh, const std::string& file) {
     if (ResNode* standing = parent.findChild(fresh->name()))
         return setLeaf(standing, file);
@@ -70,7 +67,7 @@ int ThemeResource::setNumberedPreview(const std::string& file, const std::string
     ResNode* preview = node(previewKey);
     ResNode* picture = preview->findChild(name);
     if (!picture)
-        picture = &preview->adopt(makePreviewNode(name, preview->path(), version() == 2));
+        picture = &preview->adopt(makePreviewNode(name, preview->path(), version() == generation9Index));
     const int code = setLeaf(picture, file);
     if (code == returnCode::success)
         outPath = picture->value();
@@ -117,13 +114,7 @@ int ThemeResource::deletePreview(const std::string& file) {
     ResNode* preview = node(previewKey);
     if (!preview)
         return returnCode::missingParent;
-    ResNode* picture = preview->findChild(name);
-    if (!picture)
-        return returnCode::notFound;
-    const int code = removeNodeFile(*picture);
-    if (code == returnCode::success)
-        preview->deleteChild(picture);
-    return code;
+    return removeAddedFile(*preview, name);
 }
 
 void ThemeResource::removeNumberedPreviews() {
@@ -144,6 +135,16 @@ int ThemeResource::removeNodeFile(const ResNode& node) const {
     return file.empty() || !pathExists(file) || removeFile(file) ? returnCode::success : returnCode::cannotRemoveFile;
 }
 
+int ThemeResource::removeAddedFile(ResNode& parent, const std::string& name) {
+    ResNode* child = parent.findChild(name);
+    if (!child)
+        return returnCode::notFound;
+    const int code = removeNodeFile(*child);
+    if (code == returnCode::success)
+        parent.deleteChild(child);
+    return code;
+}
+
 int ThemeResource::addThirdPartyIcon(const std::string& file) {
     if (!pathExists(file))
         return returnCode::missingFile;
@@ -152,9 +153,12 @@ int ThemeResource::addThirdPartyIcon(const std::string& file) {
         return returnCode::notAllowed;
     if (!isPrintable(name))
         return returnCode::unprintableName;
+    if (!name.ends_with(".png")) // Another spelling would not be found again when the theme is opened.
+        return returnCode::wrongKind;
     ResNode* parentNode = node(thirdPartyImages);
     ZDT_ASSERT(parentNode, source);
-    return setAddedFile(*parentNode, makeIconNode(name, std::string(iconsDirectory), version() == 2), file);
+    return setAddedFile(*parentNode, makeIconNode(name, std::string(iconsDirectory), version() == generation9Index),
+                        file);
 }
 
 std::map<std::string, int> ThemeResource::addThirdPartyIcons(const std::vector<std::string>& files) {
@@ -168,15 +172,7 @@ std::map<std::string, int> ThemeResource::addThirdPartyIcons(const std::vector<s
 
 int ThemeResource::removeThirdPartyIcon(const std::string& name) {
     ResNode* images = node(thirdPartyImages);
-    if (!images)
-        return returnCode::missingParent;
-    ResNode* icon = images->findChild(name);
-    if (!icon)
-        return returnCode::notFound;
-    const int code = removeNodeFile(*icon);
-    if (code == returnCode::success)
-        images->deleteChild(icon);
-    return code;
+    return images ? removeAddedFile(*images, name) : returnCode::missingParent;
 }
 
 int ThemeResource::clearThirdPartyIcons() {
@@ -203,18 +199,13 @@ int ThemeResource::setIconBackground(unsigned index, const std::string& file) {
         return returnCode::unprintableName;
     ResNode* parentNode = node(thirdPartyRules);
     ZDT_ASSERT(parentNode, source);
-    return setAddedFile(*parentNode, makeIconNode(name, std::string(iconsDirectory), version() == 2), file);
+    return setAddedFile(*parentNode, makeIconNode(name, std::string(iconsDirectory), version() == generation9Index),
+                        file);
 }
 
 int ThemeResource::removeIconBackground(unsigned index) {
     ResNode* rules = node(thirdPartyRules);
-    ResNode* background = rules ? rules->findChild(iconBackgroundName(index)) : nullptr;
-    if (!background)
-        return returnCode::notFound;
-    const int code = removeNodeFile(*background);
-    if (code == returnCode::success)
-        rules->deleteChild(background);
-    return code;
+    return rules ? removeAddedFile(*rules, iconBackgroundName(index)) : returnCode::notFound;
 }
 
 int ThemeResource::setCustomUnlockFile(const std::string& file) {

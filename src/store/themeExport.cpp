@@ -1,12 +1,16 @@
 #include "lockscreen/amazingUnlockNode.h"
 #include "lockscreen/customUnlockNode.h"
 #include "lockscreen/unlockConfigNode.h"
+#include "lockscreen/unlockNode.h"
+#include "model/configResNode.h"
 #include "model/fileResNode.h"
 #include "modules/iconsNode.h"
 #include "modules/previewNode.h"
 #include "modules/tables/icons.h"
 #include "modules/themeNode.h"
 #include "packaging/zipFolder.h"
+#include "store/keyText.h"
+#include "store/storeLock.h"
 #include "store/themeLayout.h"
 #include "store/themeResource.h"
 #include "support/files.h"
@@ -38,7 +42,7 @@ Progress partOf(const Progress& progress, double from, double to) {
 /// leaves no file.
 bool foldModule(const std::string& scratch, const std::string& folder) {
     const std::string path = scratch + folder;
-    const std::string name = scratch + parentPath(folder);
+    const std::string name = path.substr(0, path.size() - 1);
     const std::optional<std::vector<FolderEntry>> entries = listEntries(path);
     if (entries && entries->empty())
         return RemoveFolder(path);
@@ -48,15 +52,39 @@ bool foldModule(const std::string& scratch, const std::string& folder) {
 /// Puts a finished package in its place, which may lie on another file system. The folder there never holds half of
 /// one.
 bool placePackage(const std::string& finished, const std::string& packagePath) {
-    return moveIntoPlace(finished, packagePath, Flush::toDisk) ||
-           (copyFile(finished, packagePath) && flushToDisk(packagePath));
+    return moveIntoPlace(finished, packagePath, Flush::toDisk) || copyFile(finished, packagePath, Flush::toDisk);
 }
+
+/// Lets a tree stand in another directory for as long as it lives.
+class MovedRoot {
+public:
+    MovedRoot(ResNode& root, std::string directory)
+        : _root(root)
+        , _directory(root.path()) {
+        root.setPath(std::move(directory));
+    }
+    ~MovedRoot() { _root.setPath(std::move(_directory)); }
+    MovedRoot(const MovedRoot&) = delete;
+    MovedRoot& operator=(const MovedRoot&) = delete;
+
+private:
+    ResNode& _root;
+    std::string _directory;
+};
 
 void insertChildren(std::set<ResNode*>& nodes, const ResNode* parent, const auto& isMeant) {
     for (ResNode* child = parent ? parent->firstChild() : nullptr; child; child = child->next()) {
         if (isMeant(*child))
             nodes.insert(child);
     }
+}
+
+/// Whether a leaf is the description's version, and its first sign tells another generation than the theme's: a package
+/// would come back as another theme.
+bool isForeignVersion(const ResNode& leaf) {
+    const unsigned generation = generationIndex(leaf.rootTypeMask());
+    return leaf.keyPath() == KeyPath{"version"} && generation != unknownGeneration &&
+           generationOfVersion(leaf.value()) != generation;
 }
 
 /// A preview numbered above 0 without a fitting file.
@@ -72,8 +100,8 @@ std::set<ResNode*> ThemeResource::checkDynamicIcons() const {
     std::set<ResNode*> skipped;
     insertChildren(skipped, node({"icons", "system", "dynamic_icons"}), [&](const ResNode& icon) {
         if (icon.name() == tables::calendarBackground)
-            return !_hasDynamicCalendar;
-        return icon.name() == tables::clockBackground ? !_hasDynamicClock : !_hasDynamicWeather;
+            return !hasDynamicIcon(DynamicIcon::calendar);
+        return !hasDynamicIcon(icon.name() == tables::clockBackground ? DynamicIcon::clock : DynamicIcon::weather);
     });
 
     const ResNode* unlock = node({"unlock"});
@@ -85,33 +113,54 @@ std::set<ResNode*> ThemeResource::checkDynamicIcons() const {
     if (unlock->value() != unlockType::custom)
         skipped.insert(node({"unlock", "custom"}));
 
-    constexpr unsigned allPreviewsRequired = 2;
-    if (version() != allPreviewsRequired)
+    if (version() != generation9Index) // From there on all previews are required.
         insertChildren(skipped, node({"preview"}), isMissingFurtherPreview);
     return skipped;
 }
 
+std::vector<ResNode*> ThemeResource::presentNodes() const {
+    const std::set<ResNode*> present = _resTree->collectApplicableNodes(checkDynamicIcons());
+    const std::array<const ResNode*, 2> optional{node({"icons", "system", "static", std::string(tables::optionalIcon)}),
+                                                 node({"unlock", "custom", "file", customPropertiesName})};
+    std::vector<ResNode*> nodes = _resTree->nodesInOrder();
+    std::erase_if(nodes, [&](const ResNode* each) {
+        const bool isOptional = std::find(optional.begin(), optional.end(), each) != optional.end();
+        return !present.contains(const_cast<ResNode*>(each)) || (isOptional && each->value().empty());
+    });
+    return nodes;
+}
+
+void ThemeResource::addProblemsOf(ResNode& each, std::vector<Problem>& problems) const {
+    if (const auto* block = dynamic_cast<const ConfigResNode*>(&each); block && block->isDamaged())
+        problems.push_back({keyTextOf(each), each.path() + "theme.xml", returnCode::damagedFile});
+    if (const auto* unlock = dynamic_cast<const UnlockNode*>(&each); unlock && unlock->isDamaged())
+        problems.push_back({keyTextOf(each), "unlock/theme.xml", returnCode::damagedFile});
+    if (const auto* custom = dynamic_cast<const CustomUnlockNode*>(&each); custom && !custom->package())
+        problems.push_back({keyTextOf(each) + "/file", each.path(), returnCode::missingFile});
+    if (!each.isLeaf())
+        return;
+    const auto* file = dynamic_cast<const FileResNode*>(&each);
+    // A file that stands in its place and was refused there tells more than a missing value.
+    const bool stands = file && each.value().empty() && pathExists(file->targetPath());
+    int code = each.validate(stands ? file->targetPath() : each.value());
+    if (code == returnCode::success && isForeignVersion(each))
+        code = returnCode::patternMismatch;
+    if (code == returnCode::success)
+        return;
+    if (&each == _amazingNode) {
+        for (const std::string& missing : _amazingNode->missingFiles())
+            problems.push_back({keyTextOf(each), missing, code});
+        return;
+    }
+    problems.push_back({keyTextOf(each), file ? each.path() + each.name() : std::string(), code});
+}
+
 bool ThemeResource::checkFiles(std::vector<Problem>& outList) const {
     outList.clear();
-    const ResNode* optional = node({"icons", "system", "static", std::string(tables::optionalIcon)});
-    const std::set<ResNode*> present = _resTree->collectApplicableNodes(checkDynamicIcons());
-    for (ResNode* leaf : _resTree->nodesInOrder()) {
-        if (!leaf->isLeaf() || !present.contains(leaf) || (leaf == optional && leaf->value().empty()))
-            continue;
-        const int code = leaf->validate(leaf->value());
-        if (code == returnCode::success)
-            continue;
-        if (leaf == _amazingNode) {
-            for (const std::string& file : _amazingNode->missingFiles())
-                outList.push_back({leaf->keyPath(), file, code});
-            continue;
-        }
-        const bool isFile = dynamic_cast<const FileResNode*>(leaf) != nullptr;
-        outList.push_back({leaf->keyPath(), isFile ? leaf->path() + leaf->name() : std::string(), code});
-    }
-    const auto* custom = dynamic_cast<const CustomUnlockNode*>(node({"unlock", "custom"}));
-    if (custom && present.contains(node({"unlock", "custom"})) && !custom->package())
-        outList.push_back({{"unlock", "custom", "file"}, customUnlockDirectory, returnCode::missingFile});
+    if (_resTree->isDescriptionDamaged())
+        outList.push_back({"", std::string(descriptionFile), returnCode::damagedFile});
+    for (ResNode* each : presentNodes())
+        addProblemsOf(*each, outList);
     return outList.empty();
 }
 
@@ -119,22 +168,26 @@ bool ThemeResource::saveTo(const std::string& directory, const Progress& progres
     const std::string project = _resTree->path();
     if (directory.empty() || project.empty())
         return false;
-    const ResNode* optional = node({"icons", "system", "static", std::string(tables::optionalIcon)});
-    const std::set<ResNode*> nodes = _resTree->collectApplicableNodes(checkDynamicIcons());
-    _resTree->setPath(directory.ends_with('/') ? directory : directory + "/");
+    const std::vector<ResNode*> nodes = presentNodes();
+    const MovedRoot moved(*_resTree, directory.ends_with('/') ? directory : directory + "/");
     std::size_t done = 0;
-    const bool saved = std::all_of(nodes.begin(), nodes.end(), [&](ResNode* node) {
+    return std::all_of(nodes.begin(), nodes.end(), [&](ResNode* each) {
         if (progress)
             progress(static_cast<double>(done++) / static_cast<double>(nodes.size()));
-        return (node == optional && node->value().empty()) || node->save(false);
+        return each->save(false);
     });
-    _resTree->setPath(project);
-    return saved;
 }
 
 bool ThemeResource::exportTo(const std::string& packagePath, const Progress& progress) {
     const std::string folder = parentPath(packagePath);
-    if (packagePath.empty() || (!folder.empty() && !isFolder(folder)))
+    if (packagePath.empty() || (!folder.empty() && !isFolder(folder)) ||
+        (pathExists(packagePath) && !isPlainFile(packagePath)))
+        return false;
+    // A package among the themes or settings would pass for one of their files.
+    if (isInside(packagePath, themesFolder(_rootDirectory)) || isInside(packagePath, settingsFolder(_rootDirectory)))
+        return false;
+    const StoreLock lock(workFolder(_rootDirectory));
+    if (!lock.isHeld())
         return false;
     const std::string scratch = scratchFolder(_rootDirectory, _name);
     if (!RemoveFolder(scratch) || !saveTo(scratch, partOf(progress, 0, savedShare)))

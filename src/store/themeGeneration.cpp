@@ -16,7 +16,6 @@ namespace zdt {
 namespace {
 
 constexpr const char* source = "themeResource";
-constexpr unsigned generation9Index = 2;
 
 /// The version text of a new theme, by generation index. Its first sign is what a package tells of its generation.
 constexpr std::array<const char*, generationCount> versionTexts{"5.0.1", "8.0.1", "9.0.100"};
@@ -43,7 +42,7 @@ void ThemeResource::applySizeLimits(unsigned versionIndex) {
             resize(picture, {previewSize(picture->name(), tall)});
     }
     for (const std::string_view name : {homeWallpaper, unlockWallpaper})
-        resize(leaf({"wallpaper", "image"}, std::string(name)), {wallpaperSize(name, tall)});
+        resize(findLeaf({"wallpaper", "image"}, std::string(name)), {wallpaperSize(name, tall)});
 
     ResNode* node = this->node({"icons"});
     ZDT_ASSERT(node, source);
@@ -65,22 +64,31 @@ void ThemeResource::setVersion(unsigned versionIndex) {
 bool ThemeResource::changeGeneration(unsigned versionIndex) {
     if (versionIndex >= generationCount)
         return false;
+    const unsigned old = version();
+    const std::string oldText = findLeaf({}, "version")->value();
     setVersion(versionIndex);
     makeVersionTextAgree();
-    return applyNode({});
+    if (saveSettings() && applyNode({}))
+        return true;
+    setVersion(old);
+    findLeaf({}, "version")->setRawValue(oldText);
+    static_cast<void>(saveSettings());
+    return false;
 }
 
-void ThemeResource::makeVersionTextAgree() {
-    ResNode* text = leaf({}, "version");
+bool ThemeResource::makeVersionTextAgree() {
+    ResNode* text = findLeaf({}, "version");
     const std::string_view agreeing = versionTexts.at(version());
-    if (text->value().empty() || text->value().front() != agreeing.front())
-        text->setRawValue(std::string(agreeing));
+    if (text->value().starts_with(agreeing.front()))
+        return false;
+    text->setRawValue(std::string(agreeing));
+    return true;
 }
 
 void ThemeResource::refreshMasks() {
     const bool isGeneration5 = version() == 0;
     for (const std::string_view name : {tables::overseasVideoIcon, tables::smartHomeIcon}) {
-        if (ResNode* icon = leaf({"icons", "system", "static"}, std::string(name)))
+        if (ResNode* icon = findLeaf({"icons", "system", "static"}, std::string(name)))
             icon->setTypeMask(typeMask::everywhere & ~(isGeneration5 && isChinese() ? typeMask::chinese : 0));
     }
 

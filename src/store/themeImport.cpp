@@ -1,5 +1,6 @@
 #include "modules/iconsNode.h"
 #include "packaging/zipFolder.h"
+#include "store/storeLock.h"
 #include "store/themeLayout.h"
 #include "store/themeResource.h"
 #include "support/files.h"
@@ -29,8 +30,7 @@ ImportFailure failureOf(ArchiveVerdict verdict) {
 }
 
 bool unpackWhole(const std::string& archive, const std::string& folder) {
-    // The archive was inspected, against the budget of the whole package.
-    return UnzipToFolder(archive, folder) && holdsAllOf(folder, archive);
+    return unpackInspected(archive, folder) && holdsAllOf(folder, archive);
 }
 
 /// The nested archives directly in an unpacked package, each renamed to end in ".zip".
@@ -71,7 +71,7 @@ ImportFailure unpackPackage(const std::string& package, const std::string& folde
 
 bool writeImportedSettings(const std::string& root, const std::string& name) {
     KeyValues settings;
-    for (const std::string_view package : {weatherPackage, calendarPackage, clockPackage}) {
+    for (const std::string_view package : dynamicIconPackages) {
         const std::string directory =
             themeFolder(root, name) + std::string(dynamicIconsDirectory) + std::string(package);
         settings[std::string(package)] = isFolder(directory) ? "true" : "false";
@@ -102,7 +102,11 @@ ImportFailure importPackage(const std::string& package, const std::string& name,
     const ImportFailure failure = unpackPackage(package, fresh + "/", progress);
     if (failure != ImportFailure::none)
         return failure;
-    return flushFileSystem(fresh) && takePlace(fresh, root, name) ? ImportFailure::none : ImportFailure::incomplete;
+    if (!flushFileSystem(fresh) || !takePlace(fresh, root, name))
+        return ImportFailure::incomplete;
+    static_cast<void>(
+        flushToDisk(themesFolder(root))); // The theme is in its place, whether that can be flushed or not.
+    return ImportFailure::none;
 }
 
 } // namespace
@@ -119,7 +123,8 @@ bool ThemeResource::importTheme(const std::string& packagePath, std::string& out
     } else if (!isThemeName(outName)) {
         result = ImportFailure::badName;
     } else {
-        result = importPackage(path, outName, rootDirectory, progress);
+        const StoreLock lock(workFolder(rootDirectory));
+        result = lock.isHeld() ? importPackage(path, outName, rootDirectory, progress) : ImportFailure::incomplete;
         static_cast<void>(RemoveFolder(stagingFolder(rootDirectory, outName)));
     }
     if (failure)

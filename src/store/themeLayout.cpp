@@ -37,12 +37,16 @@ std::string themeFolder(const std::string& root, const std::string& name) {
     return themesFolder(root) + name + "/";
 }
 
+std::string workFolder(const std::string& root) {
+    return root + "tmp/";
+}
+
 std::string scratchFolder(const std::string& root, const std::string& name) {
-    return root + "tmp/" + name + "/";
+    return workFolder(root) + name + "/";
 }
 
 std::string stagingFolder(const std::string& root, const std::string& name) {
-    return root + "tmp/" + name + ".part/";
+    return workFolder(root) + name + ".part/";
 }
 
 std::string settingsFolder(const std::string& root) {

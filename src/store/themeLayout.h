@@ -17,6 +17,9 @@ namespace zdt {
 [[nodiscard]] std::string themesFolder(const std::string& root);
 [[nodiscard]] std::string themeFolder(const std::string& root, const std::string& name);
 
+/// `root/tmp/`, where packages and new themes are made.
+[[nodiscard]] std::string workFolder(const std::string& root);
+
 /// `root/tmp/name/`, the scratch folder of an export.
 [[nodiscard]] std::string scratchFolder(const std::string& root, const std::string& name);
 

@@ -7,7 +7,8 @@
 #include "support/assertion.h"
 #include "support/files.h"
 
-#include <limits>
+#include <algorithm>
+#include <charconv>
 #include <stdexcept>
 
 namespace zdt {
@@ -22,15 +23,16 @@ std::string flagText(bool flag) {
     return flag ? "true" : "false";
 }
 
+/// Bits that no kind of theme has are dropped, and so are all but the first of several generations, with which no node
+/// would take part.
 /// @throws std::invalid_argument if the text isn't a number of 32 bits
 TypeMask parseTypeMask(const std::string& text) {
-    try {
-        const unsigned long value = std::stoul(text);
-        if (value <= std::numeric_limits<TypeMask>::max())
-            return static_cast<TypeMask>(value);
-    } catch (const std::logic_error&) { // No number, or one too large: both are told below.
-    }
-    throw std::invalid_argument("the type in the settings is no number: " + text);
+    TypeMask mask = 0;
+    const char* const end = text.data() + text.size();
+    const std::from_chars_result result = std::from_chars(text.data(), end, mask);
+    if (result.ec != std::errc() || result.ptr != end)
+        throw std::invalid_argument("the type in the settings is no number: " + text);
+    return (mask & typeMask::everyKind) | generationBit(generationIndex(mask));
 }
 
 /// What a theme without settings is, told by what it holds.
@@ -38,12 +40,7 @@ TypeMask deriveTypeMask(const std::string& themeDirectory) {
     TypeMask mask = typeMask::chinese;
     const Description description = readDescriptionFile(themeDirectory + std::string(descriptionFile));
     const auto version = description.find("version");
-    if (version == description.end())
-        mask |= typeMask::generation9;
-    else if (!version->second.empty())
-        mask |= version->second.front() == '5'   ? typeMask::generation5
-                : version->second.front() == '8' ? typeMask::generation8
-                                                 : typeMask::generation9;
+    mask |= version == description.end() ? typeMask::generation9 : generationBit(generationOfVersion(version->second));
     return mask | (isFolder(themeDirectory + "com.android.mms/") ? typeMask::bigTheme : typeMask::smallTheme);
 }
 
@@ -79,7 +76,9 @@ std::unique_ptr<ThemeResource> ThemeResource::openTheme(const std::string& theme
 }
 
 bool ThemeResource::hasChineseSettings(const std::string& name, const std::string& root) {
-    const KeyValues settings = readKeyValueFile(settingsFile(storeRoot(root), name));
+    KeyValues settings;
+    if (isThemeName(name))
+        settings = readKeyValueFile(settingsFile(storeRoot(root), name));
     const auto type = settings.find(typeKey);
     if (type == settings.end())
         return true;
@@ -95,19 +94,17 @@ void ThemeResource::applySettings(const KeyValues& settings) {
             return entry->second == "true";
         return isFolder(directory + std::string(dynamicIconsDirectory) + std::string(package));
     };
-    _hasDynamicCalendar = flag(calendarPackage);
-    _hasDynamicClock = flag(clockPackage);
-    _hasDynamicWeather = flag(weatherPackage);
+    std::transform(dynamicIconPackages.begin(), dynamicIconPackages.end(), _hasDynamicIcon.begin(), flag);
     if (const auto entry = settings.find(lockWallpaperKey); entry != settings.end())
         _amazingNode->setHasWallpaper(entry->second == "true");
 }
 
 KeyValues ThemeResource::currentSettings() const {
-    return {{std::string(calendarPackage), flagText(_hasDynamicCalendar)},
-            {std::string(clockPackage), flagText(_hasDynamicClock)},
-            {std::string(weatherPackage), flagText(_hasDynamicWeather)},
-            {lockWallpaperKey, flagText(_amazingNode->hasWallpaper())},
-            {typeKey, std::to_string(_resTree->typeMask())}};
+    KeyValues settings{{lockWallpaperKey, flagText(_amazingNode->hasWallpaper())},
+                       {typeKey, std::to_string(_resTree->typeMask())}};
+    for (std::size_t icon = 0; icon < dynamicIconCount; ++icon)
+        settings[std::string(dynamicIconPackages[icon])] = flagText(_hasDynamicIcon[icon]);
+    return settings;
 }
 
 bool ThemeResource::saveSettings() {
@@ -145,29 +142,11 @@ void ThemeResource::setLanguageBit(bool chinese) {
 }
 
 bool ThemeResource::hasDynamicIcon(DynamicIcon icon) const {
-    switch (icon) {
-    case DynamicIcon::calendar:
-        return _hasDynamicCalendar;
-    case DynamicIcon::clock:
-        return _hasDynamicClock;
-    case DynamicIcon::weather:
-        return _hasDynamicWeather;
-    }
-    return false;
+    return _hasDynamicIcon.at(static_cast<std::size_t>(icon));
 }
 
 void ThemeResource::setDynamicIcon(DynamicIcon icon, bool has) {
-    switch (icon) {
-    case DynamicIcon::calendar:
-        _hasDynamicCalendar = has;
-        break;
-    case DynamicIcon::clock:
-        _hasDynamicClock = has;
-        break;
-    case DynamicIcon::weather:
-        _hasDynamicWeather = has;
-        break;
-    }
+    _hasDynamicIcon.at(static_cast<std::size_t>(icon)) = has;
 }
 
 } // namespace zdt

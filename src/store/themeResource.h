@@ -7,6 +7,8 @@
 #include "support/keyValueFile.h"
 #include "support/parallel.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -24,7 +26,7 @@ class ThemeNode;
 
 /// One thing that stands in the way of an export.
 struct Problem {
-    KeyPath key;      ///< The leaf.
+    std::string key;  ///< Of the leaf, or of the block whose file is damaged; empty for the description.
     std::string path; ///< The file in question, relative to the theme directory; empty for a value.
     int code = 0;     ///< A return code.
 };
@@ -42,6 +44,7 @@ enum class ImportFailure {
 
 /// The icons that move on the phone and that a theme has or leaves out.
 enum class DynamicIcon { calendar, clock, weather };
+inline constexpr std::size_t dynamicIconCount = 3;
 
 /// The store of one open theme: through it alone the rest of the system reaches the theme. It owns the resource tree,
 /// knows where the theme lies, makes new themes from the templates, and gives the calls to read and change values.
@@ -113,10 +116,18 @@ public:
     /// Moves the theme to another generation: sizes and masks follow, files that no longer fit lose their value, and a
     /// small theme gets defaults for them.
     void setVersion(unsigned versionIndex);
-    /// `setVersion`, and the description's version text made to agree and written. False if it can't be.
+    /// `setVersion`, the description's version text made to agree, and both the description and the settings written.
+    /// False if they can't be: the theme is of its old generation then.
     [[nodiscard]] bool changeGeneration(unsigned versionIndex);
     /// Sets the masks that depend on both generation and language.
     void refreshMasks();
+
+    // Finding nodes.
+
+    /// The leaf of a block; of namesakes the first that takes part in the theme, else the first. Null if there is none.
+    [[nodiscard]] ResNode* findLeaf(const KeyPath& keyPath, const std::string& name) const;
+    /// The n-th of a path's namesakes, counted from 1; null if there are fewer.
+    [[nodiscard]] ResNode* findNthNode(const KeyPath& keyPath, int n) const;
 
     // Reading and changing values. A key path names a block, and `name` a leaf in it; of namesakes the first that takes
     // part in the theme is meant, else the first.
@@ -138,7 +149,8 @@ public:
     void childValues(const KeyPath& keyPath, const std::string& name, std::map<std::string, std::string>& out) const;
     /// The same in the tree's order.
     [[nodiscard]] std::vector<std::pair<std::string, std::string>> childPairs(const KeyPath& keyPath) const;
-    /// Removes the file that is a leaf's value and empties the value. -1 if it can't be removed, -14 without the leaf.
+    /// Removes the file that is a file leaf's value and empties the value. -1 if it can't be removed, -14 without the
+    /// leaf.
     [[nodiscard]] int clearFile(const KeyPath& keyPath);
     /// Puts a file back to the template's; -1 if the template has none.
     [[nodiscard]] int restoreDefault(ResNode* node);
@@ -193,31 +205,38 @@ public:
 private:
     ThemeResource(std::string root, std::string name, TypeMask mask);
 
+    /// The copy is made aside, so that a full disk or a killed process leaves no half theme.
     [[nodiscard]] static bool copyTemplate(const std::string& root, const std::string& name, unsigned versionIndex);
     void applySettings(const KeyValues& settings);
     [[nodiscard]] KeyValues currentSettings() const;
 
     [[nodiscard]] ResNode* node(const KeyPath& keyPath) const;
-    [[nodiscard]] ResNode* leaf(const KeyPath& keyPath, const std::string& name) const;
-    [[nodiscard]] ResNode* nthNode(const KeyPath& keyPath, int n) const;
     [[nodiscard]] int setLeaf(ResNode* leaf, const std::string& value);
+
+    /// What takes part in a check and a save, in the tree's order: all that is applicable, outside the skipped nodes,
+    /// and with a value where the theme may do without.
+    [[nodiscard]] std::vector<ResNode*> presentNodes() const;
+    void addProblemsOf(ResNode& each, std::vector<Problem>& problems) const;
 
     void applySizeLimits(unsigned versionIndex);
     void restoreInvalidDefaults();
-    void makeVersionTextAgree();
+    /// Whether the text had to be changed.
+    bool makeVersionTextAgree();
 
+    /// Sets a file on the child of its name, which is made from `fresh` if there is none and then removed again if the
+    /// file is refused.
     [[nodiscard]] int setAddedFile(ResNode& parent, std::unique_ptr<FileResNode> fresh, const std::string& file);
     [[nodiscard]] int setNumberedPreview(const std::string& file, const std::string& name, std::string& outPath);
     [[nodiscard]] int removeNodeFile(const ResNode& node) const;
+    /// Removes a child and its file; -14 if there is none of that name.
+    [[nodiscard]] int removeAddedFile(ResNode& parent, const std::string& name);
 
     std::unique_ptr<ThemeNode> _resTree;
     AmazingUnlockNode* _amazingNode = nullptr; ///< A node of the tree.
     std::string _rootDirectory;
     std::string _name;
     KeyValues _savedSettings; ///< As they stand on disk.
-    bool _hasDynamicCalendar = false;
-    bool _hasDynamicWeather = false;
-    bool _hasDynamicClock = false;
+    std::array<bool, dynamicIconCount> _hasDynamicIcon{};
 };
 
 } // namespace zdt

@@ -1,12 +1,11 @@
-#include "lockscreen/amazingUnlockNode.h"
 #include "model/template.h"
 #include "modules/themeNode.h"
+#include "store/storeLock.h"
 #include "store/themeLayout.h"
 #include "store/themeResource.h"
 #include "support/files.h"
 
 #include <algorithm>
-#include <array>
 
 /// The operations of the store on themes that aren't open: listing, making, deleting and reading about them.
 namespace zdt {
@@ -38,12 +37,12 @@ std::vector<std::string> ThemeResource::listThemes(const std::string& root) {
     return names;
 }
 
-/// The copy is made aside, so that a full disk or a killed process leaves no half theme.
 bool ThemeResource::copyTemplate(const std::string& root, const std::string& name, unsigned versionIndex) {
     const std::string source = locateTemplate(root, versionIndex);
     const std::string staging = stagingFolder(root, name);
     const std::string target = themeFolder(root, name);
-    const bool placed = isFolder(source) && removeTree(staging) && makePath(staging) &&
+    const StoreLock lock(workFolder(root));
+    const bool placed = isFolder(source) && lock.isHeld() && removeTree(staging) && makePath(staging) &&
                         copyTemplateTree(source, staging) && makePath(themesFolder(root)) &&
                         moveIntoPlace(staging, parentPath(target), Flush::no);
     return placed || (static_cast<void>(removeTree(staging)), false);
@@ -65,17 +64,19 @@ std::unique_ptr<ThemeResource> ThemeResource::createTheme(const std::string& nam
     const TypeMask mask = generationBit(versionIndex) | (smallTheme ? typeMask::smallTheme : typeMask::bigTheme) |
                           (chinese ? typeMask::chinese : typeMask::otherLanguage);
     std::unique_ptr<ThemeResource> theme(new ThemeResource(rootDirectory, name, mask));
-    theme->setName(name);
-    theme->setBigTheme(smallTheme == 0);
     theme->setLanguageBit(chinese);
     theme->setVersion(versionIndex);
-    theme->makeVersionTextAgree();
+    bool described = !theme->makeVersionTextAgree();
     if (isNew && !chinese) {
         theme->setValues({}, {{"title-cn", "Chinese Name"}, {"author", "Author Name"}, {"designer", "Designer Name"}});
-        if (!theme->applyNode({}))
-            return nullptr;
+        described = false;
     }
-    return theme;
+    if (described || theme->applyNode({}))
+        return theme;
+    theme.reset();
+    if (isNew)
+        static_cast<void>(deleteTheme(name, rootDirectory));
+    return nullptr;
 }
 
 bool ThemeResource::deleteTheme(const std::string& name, const std::string& root) {

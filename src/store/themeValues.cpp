@@ -7,8 +7,6 @@
 #include "support/assertion.h"
 #include "support/files.h"
 
-#include <array>
-
 /// Reading and changing the values of an open theme.
 namespace zdt {
 
@@ -33,8 +31,10 @@ void refreshTwins(const ResNode& changed) {
     for (ResNode* sibling = changed.parent()->findChild(changed.name()); sibling;
          sibling = changed.parent()->findChild(changed.name(), sibling)) {
         auto* file = dynamic_cast<FileResNode*>(sibling);
-        if (file && sibling != &changed && sibling->path() == changed.path())
-            file->loadFromTheme();
+        if (!file || sibling == &changed || sibling->path() != changed.path())
+            continue;
+        file->clearValue();
+        file->loadFromTheme();
     }
 }
 
@@ -44,7 +44,7 @@ ResNode* ThemeResource::node(const KeyPath& keyPath) const {
     return _resTree->findByPath(keyPath);
 }
 
-ResNode* ThemeResource::leaf(const KeyPath& keyPath, const std::string& name) const {
+ResNode* ThemeResource::findLeaf(const KeyPath& keyPath, const std::string& name) const {
     const ResNode* block = node(keyPath);
     ResNode* const first = block ? block->findChild(name) : nullptr;
     for (ResNode* namesake = first; namesake; namesake = block->findChild(name, namesake)) {
@@ -54,7 +54,7 @@ ResNode* ThemeResource::leaf(const KeyPath& keyPath, const std::string& name) co
     return first;
 }
 
-ResNode* ThemeResource::nthNode(const KeyPath& keyPath, int n) const {
+ResNode* ThemeResource::findNthNode(const KeyPath& keyPath, int n) const {
     if (keyPath.empty())
         return _resTree.get();
     const ResNode* block = node({keyPath.begin(), keyPath.end() - 1});
@@ -74,21 +74,21 @@ int ThemeResource::setLeaf(ResNode* leaf, const std::string& value) {
 }
 
 std::string ThemeResource::getValue(const KeyPath& keyPath, const std::string& name) const {
-    const ResNode* found = leaf(keyPath, name);
+    const ResNode* found = findLeaf(keyPath, name);
     return found && found->isApplicable() ? found->value() : std::string();
 }
 
 std::string ThemeResource::getValueNth(const KeyPath& keyPath, int n) const {
-    const ResNode* found = nthNode(keyPath, n);
+    const ResNode* found = findNthNode(keyPath, n);
     return found ? found->value() : std::string();
 }
 
 int ThemeResource::setValue(const KeyPath& keyPath, const std::string& name, const std::string& value) {
-    return setLeaf(leaf(keyPath, name), value);
+    return setLeaf(findLeaf(keyPath, name), value);
 }
 
 int ThemeResource::setValueNth(const KeyPath& keyPath, int n, const std::string& value) {
-    return setLeaf(nthNode(keyPath, n), value);
+    return setLeaf(findNthNode(keyPath, n), value);
 }
 
 std::map<std::string, int> ThemeResource::setValues(const KeyPath& keyPath,
@@ -97,7 +97,7 @@ std::map<std::string, int> ThemeResource::setValues(const KeyPath& keyPath,
         return {{"parent key", returnCode::notFound}};
     std::map<std::string, int> codes;
     for (const auto& [name, value] : values) {
-        if (ResNode* child = leaf(keyPath, name))
+        if (ResNode* child = findLeaf(keyPath, name))
             codes[name] = setLeaf(child, value);
     }
     return codes;
@@ -134,7 +134,8 @@ int ThemeResource::clearFile(const KeyPath& keyPath) {
     if (!found)
         return returnCode::notFound;
     const std::string file = found->value();
-    if (extension(file).empty() || !isPlainFile(file))
+    // A text may well read like a path; it never stands for the file.
+    if (!dynamic_cast<const FileResNode*>(found) || extension(file).empty() || !isPlainFile(file))
         return returnCode::success;
     if (!removeFile(file))
         return returnCode::cannotRemove;

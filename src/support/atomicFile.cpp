@@ -28,6 +28,12 @@ std::string temporaryNameIn(const std::string& folder) {
     return folder + "/." + std::to_string(::getpid()) + "-" + std::to_string(counter++) + ".part";
 }
 
+/// A file without a name is given one through /proc, which a bare container may lack.
+bool canNameLater() {
+    static const bool can = pathExists("/proc/self/fd");
+    return can;
+}
+
 bool withDescriptor(const std::string& path, int (*flush)(int)) {
     const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (descriptor < 0)
@@ -42,7 +48,7 @@ bool withDescriptor(const std::string& path, int (*flush)(int)) {
 AtomicFile::AtomicFile(std::string targetPath)
     : _target(std::move(targetPath)) {
     const std::string folder = folderOf(_target);
-    int descriptor = ::open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, newFileMode);
+    int descriptor = canNameLater() ? ::open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, newFileMode) : -1;
     if (descriptor < 0) { // Not every file system knows files without a name.
         do {
             _temporary = temporaryNameIn(folder);
@@ -104,13 +110,16 @@ bool moveIntoPlace(const std::string& finished, const std::string& target, Flush
         return false;
     if (::rename(finished.c_str(), target.c_str()) != 0)
         return false;
-    return flush == Flush::no || flushToDisk(folderOf(target));
+    if (flush == Flush::toDisk) // The target is in its place now, whether its folder can be flushed or not.
+        static_cast<void>(flushToDisk(folderOf(target)));
+    return true;
 }
 
 bool exchangePlaces(const std::string& first, const std::string& second) {
     if (::renameat2(AT_FDCWD, first.c_str(), AT_FDCWD, second.c_str(), RENAME_EXCHANGE) == 0)
         return true;
-    const std::string aside = first + ".part";
+    // Not every file system can. What `second` was stays beside its place until both have changed.
+    const std::string aside = second + ".part";
     if (!moveIntoPlace(second, aside, Flush::no))
         return false;
     if (moveIntoPlace(first, second, Flush::no))

@@ -86,7 +86,14 @@ bool removeFile(const std::string& path) {
     return ::unlink(path.c_str()) == 0;
 }
 
-bool copyFile(const std::string& source, const std::string& destination) {
+std::string readFile(const std::string& path) {
+    std::string content(fileSize(path), '\0');
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rbe"), &std::fclose);
+    content.resize(file ? std::fread(content.data(), 1, content.size(), file.get()) : 0);
+    return content;
+}
+
+bool copyFile(const std::string& source, const std::string& destination, Flush flush) {
     if (source == destination)
         return pathExists(source);
     if (!isPlainFile(source) || !makePath(destination))
@@ -100,7 +107,7 @@ bool copyFile(const std::string& source, const std::string& destination) {
         if (std::fwrite(block.data(), 1, length, output.stream()) != length)
             return false;
     }
-    return std::ferror(input.get()) == 0 && output.commit();
+    return std::ferror(input.get()) == 0 && output.commit(flush);
 }
 
 bool copyTree(std::string source, std::string destination) {
@@ -185,6 +192,13 @@ std::uint64_t treeSize(const std::string& path) {
             total += fileSize(entry->path().string());
     }
     return total;
+}
+
+bool isInside(const std::string& path, const std::string& folder) {
+    std::error_code error;
+    const fs::path inner = fs::weakly_canonical(fs::absolute(path, error), error);
+    const fs::path outer = fs::weakly_canonical(fs::absolute(withoutTrailingSlash(folder), error), error);
+    return std::mismatch(outer.begin(), outer.end(), inner.begin(), inner.end()).first == outer.end();
 }
 
 std::string programDirectory() {

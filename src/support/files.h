@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/atomicFile.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -34,9 +36,12 @@ void normalisePath(std::string& path);
 /// Removes one file.
 [[nodiscard]] bool removeFile(const std::string& path);
 
+/// The whole content of a file, as far as it can be read.
+[[nodiscard]] std::string readFile(const std::string& path);
+
 /// Copies a plain file's bytes, making the target's folder. The target is written whole or not at all. True with no
 /// copying when the two paths are equal.
-[[nodiscard]] bool copyFile(const std::string& source, const std::string& destination);
+[[nodiscard]] bool copyFile(const std::string& source, const std::string& destination, Flush flush = Flush::no);
 
 /// Copies what a folder holds into another, merging with what stands there. A missing source copies nothing and is no
 /// failure. Both must be named.
@@ -78,6 +83,9 @@ struct FolderEntry {
 
 /// The size in bytes of all files that a folder holds, at any depth; of a file, its own.
 [[nodiscard]] std::uint64_t treeSize(const std::string& path);
+
+/// Whether a path lies in a folder, links in it followed. Neither needs to exist.
+[[nodiscard]] bool isInside(const std::string& path, const std::string& folder);
 
 /// The folder of the running program, with a trailing "/": both programs stand there with the templates beside them.
 [[nodiscard]] std::string programDirectory();

@@ -3,8 +3,6 @@
 #include "support/files.h"
 
 #include <cstdint>
-#include <fstream>
-#include <iterator>
 
 namespace zdt {
 
@@ -33,8 +31,7 @@ KeyValues parseKeyValues(std::string_view text) {
 KeyValues readKeyValueFile(const std::string& path) {
     if (!isPlainFile(path) || fileSize(path) > maxKeyValueBytes)
         return {};
-    std::ifstream file(path, std::ios::binary);
-    return parseKeyValues(std::string(std::istreambuf_iterator<char>(file), {}));
+    return parseKeyValues(readFile(path));
 }
 
 bool writeKeyValueFile(const std::string& path, const KeyValues& pairs, Flush flush) {

@@ -39,6 +39,12 @@ bool isUtf8(std::string_view text) {
     return true;
 }
 
+bool isXmlText(std::string_view text) {
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 && c != '\n' && c != '\t'; };
+    return isUtf8(text) && std::none_of(text.begin(), text.end(), isControl) &&
+           text.find("\xef\xbf\xbe") == std::string_view::npos && text.find("\xef\xbf\xbf") == std::string_view::npos;
+}
+
 bool isPrintable(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return c >= 32 && c <= 126; });
 }

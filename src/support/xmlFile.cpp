@@ -4,13 +4,27 @@
 #include "support/files.h"
 
 #include <cstdint>
-#include <memory>
+#include <string_view>
 
 namespace zdt {
 
 namespace {
 
 constexpr std::uint64_t maxXmlBytes = 16 * 1024 * 1024;
+constexpr int maxAttributes = 1000;
+
+/// Whether no element has more attributes than `maxAttributes`: the parser compares each with all before it, and a file
+/// of many would take minutes. Any "=" between "<" and ">" counts, so that text can only make the answer stricter.
+bool hasFewAttributes(std::string_view text) {
+    int count = 0;
+    for (const char c : text) {
+        if (c == '<' || c == '>')
+            count = 0;
+        else if (c == '=' && ++count > maxAttributes)
+            return false;
+    }
+    return true;
+}
 
 } // namespace
 
@@ -18,11 +32,26 @@ bool loadXml(tinyxml2::XMLDocument& document, const std::string& path) {
     document.Clear();
     if (!isPlainFile(path) || fileSize(path) > maxXmlBytes)
         return false;
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rbe"), &std::fclose);
-    if (file && document.LoadFile(file.get()) == tinyxml2::XML_SUCCESS && document.RootElement())
+    const std::string text = readFile(path);
+    if (hasFewAttributes(text) && document.Parse(text.data(), text.size()) == tinyxml2::XML_SUCCESS &&
+        document.RootElement())
         return true;
     document.Clear();
     return false;
+}
+
+void DamagedXml::note(const std::string& path) {
+    if (pathExists(path))
+        _path = path;
+}
+
+bool DamagedXml::keepFrom(const std::string& path) {
+    if (_path.empty() || _path != path)
+        return true;
+    if (pathExists(path) && !moveIntoPlace(path, path + ".damaged", Flush::no))
+        return false;
+    _path.clear();
+    return true;
 }
 
 bool saveXml(tinyxml2::XMLDocument& document, const std::string& path) {

@@ -7,9 +7,25 @@
 /// Reading and writing the XML documents of a theme.
 namespace zdt {
 
-/// Reads a document. False, with an empty document, if the file is missing, isn't a plain file, isn't well formed or is
-/// larger than any document of a theme can be (16 MiB).
+/// Reads a document. False, with an empty document, if the file is missing, isn't a plain file, isn't well formed, or
+/// larger than any document of a theme can be: 16 MiB, or 1,000 attributes in an element.
 [[nodiscard]] bool loadXml(tinyxml2::XMLDocument& document, const std::string& path);
+
+/// A document's file that was there and couldn't be read. It is kept when the document is written anew, so that an
+/// author may still mend it by hand.
+class DamagedXml {
+public:
+    /// Notes the file if something stands there; to be called when `loadXml` failed.
+    void note(const std::string& path);
+    /// Empty if nothing is damaged.
+    [[nodiscard]] const std::string& path() const { return _path; }
+    /// To be called before a document is written: moves the damaged file aside, to its name and ".damaged", if that is
+    /// where it stands.
+    [[nodiscard]] bool keepFrom(const std::string& path);
+
+private:
+    std::string _path;
+};
 
 /// Writes a document whole or not at all; the folder must exist.
 [[nodiscard]] bool saveXml(tinyxml2::XMLDocument& document, const std::string& path);

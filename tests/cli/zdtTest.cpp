@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+#include <sys/stat.h>
 
 #include <sstream>
 
@@ -228,18 +229,19 @@ TEST_F(ZdtTest, CheckListsWhatIsMissingAndExportRefusesIt) {
     ASSERT_TRUE(removeFile(store.path("res/T/preview/cover.jpg")));
     const Result result = run({"check", "T"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.out, "preview/cover.jpg: the file doesn't exist (-2) [preview/cover.jpg]\n");
+    EXPECT_EQ(result.out,
+              "preview/cover.jpg: the file doesn't exist, or it is no plain file (-2) [preview/cover.jpg]\n");
     EXPECT_EQ(document({"check", "T"}), (json{{{"key", "preview/cover.jpg"},
                                                {"path", "preview/cover.jpg"},
                                                {"code", -2},
-                                               {"reason", "the file doesn't exist"}}}));
+                                               {"reason", "the file doesn't exist, or it is no plain file"}}}));
     EXPECT_EQ(run({"export", "T", store.path("T.zdt")}).status, 1);
     EXPECT_FALSE(pathExists(store.path("T.zdt")));
     EXPECT_EQ(run({"reset", "T", "preview/cover.jpg"}).status, 0);
     EXPECT_EQ(run({"export", "T", store.path("T.zdt")}).status, 0);
     expectRefusal({"export", "T", store.path("no/T.zdt")},
                   store.path("no/T.zdt") + ": the package couldn't be written");
-    expectRefusal({"export", "T", store.path("res")}, store.path("res") + ": a folder stands there");
+    expectRefusal({"export", "T", store.path("res")}, store.path("res") + ": something stands there that is no file");
 }
 
 TEST_F(ZdtTest, PackageIsImportedUnderItsNameAndReplacesOnlyWhenTold) {
@@ -276,6 +278,35 @@ TEST_F(ZdtTest, GenerationAndDynamicIconsAreChangedForGood) {
         EXPECT_EQ(run({"dynamic", "T", icon, "off"}).status, 0);
         EXPECT_EQ(document({"info", "T"})["dynamic"][field], false);
     }
+}
+
+TEST_F(ZdtTest, WhatAThemeCannotKeepIsRefused) {
+    store.create("T");
+    expectRefusal({"set", "T", "title", "a\x01"}, "title: the value holds a control character");
+    expectRefusal({"set", "T", "title", "a\rb"}, "title: the value holds a control character");
+    expectRefusal({"set", "T", "title", " \t "}, "title: the value is nothing but blanks");
+    expectRefusal({"set", "T", "wallpaper/ext.properties/wallpaper_video", ""},
+                  "wallpaper/ext.properties/wallpaper_video: the value is empty (-18)");
+    EXPECT_EQ(run({"set", "T", "briefinfo", "one\ntwo"}).status, 0);
+    EXPECT_EQ(run({"get", "T", "briefinfo"}).out, "one\ntwo\n");
+    EXPECT_NE(run({"info", "T"}).out.find("briefinfo: one\\ntwo\n"), std::string::npos) << "one item a line";
+    const Result result = run({"info", "\x1b[31m\xff"});
+    EXPECT_EQ(result.err, "zdt: ?[31m?: there is no theme of that name\n") << "a terminal isn't steered";
+}
+
+TEST_F(ZdtTest, PackageNeverTakesThePlaceOfSomethingElse) {
+    store.create("T");
+    for (const std::string file : {"res/T/description.xml", "config/T_config.txt", "res/new.zdt"})
+        expectRefusal({"export", "T", store.path(file)},
+                      store.path(file) + ": a package can't stand among the themes or their settings");
+    ASSERT_EQ(::mkfifo(store.path("pipe").c_str(), 0600), 0);
+    expectRefusal({"export", "T", store.path("pipe")}, store.path("pipe") + ": something stands there that is no file");
+    EXPECT_EQ(run({"check", "T"}).status, 0);
+
+    ASSERT_EQ(run({"export", "T", store.path("F.zdt")}).status, 0);
+    store.write("res/F", "a plain file");
+    EXPECT_EQ(run({"import", store.path("F.zdt")}).status, 1);
+    EXPECT_EQ(test::readFile(store.path("res/F")), "a plain file");
 }
 
 TEST_F(ZdtTest, OptionsMayStandAnywhereBeforeTheDashes) {

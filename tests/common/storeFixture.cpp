@@ -53,7 +53,7 @@ std::vector<std::string> problemsOf(const ThemeResource& theme) {
     static_cast<void>(theme.checkFiles(problems));
     std::vector<std::string> lines;
     for (const Problem& problem : problems)
-        lines.push_back(joinKeyPath(problem.key) + " (" + std::to_string(problem.code) + ")");
+        lines.push_back(problem.key + " (" + std::to_string(problem.code) + ")");
     return lines;
 }
 

@@ -92,6 +92,7 @@ TEST(ThirdPartyIcons, TheyComeAndGoWithTheirFiles) {
           Case{store.write("com.android.browser.png", good), -9}, Case{store.write("my_icon_background.png", good), -9},
           Case{store.write("icon_mask.png", good), -9}, Case{store.write("图标.png", good), -5},
           Case{store.write("com.example.big.png", test::pngHeader(256, 256)), -22},
+          Case{store.write("com.example.foo.PNG", good), -21},
           Case{store.write("com.example.foo.jpg", test::jpegHeader(192, 192)), -21}}) {
         SCOPED_TRACE(each.file);
         EXPECT_EQ(theme->addThirdPartyIcon(each.file), each.code);

@@ -129,7 +129,7 @@ TEST(Check, EachThingThatIsMissingIsListedOnceInTheTreesOrder) {
     EXPECT_FALSE(theme->checkFiles(problems));
     ASSERT_EQ(problems.size(), 4U);
     EXPECT_EQ(problems[0].path, "unlock/drawable-hdpi/number_3.png");
-    EXPECT_EQ(joinKeyPath(problems[0].key), "unlock/amazing");
+    EXPECT_EQ(problems[0].key, "unlock/amazing");
     EXPECT_EQ(problems[1].path, "wallpaper/home_wallpaper_0.jpg");
     EXPECT_EQ(problems[2].path, "preview/cover.jpg");
     EXPECT_EQ(problems[3].path, "");
@@ -138,6 +138,39 @@ TEST(Check, EachThingThatIsMissingIsListedOnceInTheTreesOrder) {
     EXPECT_EQ(theme->tree().findByPath(KeyPath{"unlock"})->setValue("slide"), 0);
     EXPECT_FALSE(theme->checkFiles(problems));
     EXPECT_EQ(problems.size(), 3U) << "another kind of lock screen needs no designed one";
+}
+
+TEST(Check, DamagedDocumentIsListedAndKeptWhenItIsWrittenAnew) {
+    const TemporaryStore store;
+    store.create("T");
+    struct Case {
+        const char* file;
+        const char* problem;
+        KeyPath block;
+    };
+    for (const Case& each :
+         {Case{"com.android.mms/theme.xml", "mms/text (-24)", {"mms", "text"}}, Case{"description.xml", " (-24)", {}},
+          Case{"unlock/theme.xml", "unlock (-24)", {"unlock", "config"}}}) {
+        SCOPED_TRACE(each.file);
+        const std::string path = store.path(std::string("res/T/") + each.file);
+        const std::string damaged = test::readFile(path).substr(0, 100);
+        store.write(std::string("res/T/") + each.file, damaged);
+        const auto theme = store.open("T");
+        EXPECT_EQ(test::problemsOf(*theme).front(), each.problem);
+        ASSERT_EQ(theme->tree().findByPath(KeyPath{"unlock"})->setValue("amazing"), 0);
+        ASSERT_TRUE(theme->changeGeneration(2) && theme->applyNode(each.block));
+        EXPECT_EQ(test::readFile(path + ".damaged"), damaged);
+        EXPECT_EQ(test::problemsOf(*store.open("T")), std::vector<std::string>());
+    }
+}
+
+TEST(Check, VersionOfAnotherGenerationStandsInTheWay) {
+    const TemporaryStore store;
+    const auto theme = store.create("T");
+    ASSERT_EQ(theme->setValue({}, "version", "8.0.7"), 0);
+    EXPECT_EQ(test::problemsOf(*theme), std::vector<std::string>{"version (-19)"});
+    ASSERT_EQ(theme->setValue({}, "version", "9.1.200"), 0);
+    EXPECT_EQ(test::problemsOf(*theme), std::vector<std::string>());
 }
 
 TEST(Check, KindOfLockScreenAndFlagsDecideWhatIsNeeded) {

@@ -31,10 +31,10 @@ TEST(Generation, MoveToNineAsksForTallPicturesAndSmallIcons) {
     ASSERT_TRUE(theme->changeGeneration(2));
     EXPECT_EQ(theme->version(), 2U);
     EXPECT_EQ(theme->amazingNode().screenHeight(), 2160U);
-    EXPECT_TRUE(isProblem(*theme, "icons/system/static/com.android.browser.png (-2)")) << "256 no longer fits";
-    EXPECT_TRUE(isProblem(*theme, "wallpaper/image/home_wallpaper_0.jpg (-2)"));
-    EXPECT_TRUE(isProblem(*theme, "preview/preview_mms_0.jpg (-2)"));
-    EXPECT_FALSE(isProblem(*theme, "preview/cover.jpg (-2)"));
+    EXPECT_TRUE(isProblem(*theme, "icons/system/static/com.android.browser.png (-22)")) << "256 no longer fits";
+    EXPECT_TRUE(isProblem(*theme, "wallpaper/image/home_wallpaper_0.jpg (-22)"));
+    EXPECT_TRUE(isProblem(*theme, "preview/preview_mms_0.jpg (-22)"));
+    EXPECT_EQ(theme->getValue({"preview"}, "cover.jpg"), store.path("res/T/preview/cover.jpg"));
     EXPECT_EQ(theme->getValue({}, "version"), "9.0.100");
     EXPECT_EQ(ThemeResource::readDescription("T", store.root()).at("version"), "9.0.100");
 

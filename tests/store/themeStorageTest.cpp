@@ -109,6 +109,8 @@ TEST(OpenTheme, KindIsTakenFromTheSettingsElseDerivedFromWhatStandsThere) {
     const std::string seven = version + "7</version></ZdTheme>";
     for (const Case& each :
          {Case{"settings win", "type=2684354564", five.c_str(), true, 0x90000004},
+          Case{"bits of no kind are dropped, and all but one generation", "type=4294967295", five.c_str(), true,
+               0xd0000001},
           Case{"five, small", nullptr, five.c_str(), false, 0x90000001},
           Case{"eight, big", nullptr, eight.c_str(), true, 0x50000002},
           Case{"any other sign is nine", nullptr, seven.c_str(), true, 0x50000004},
@@ -133,7 +135,7 @@ TEST(OpenTheme, KindIsTakenFromTheSettingsElseDerivedFromWhatStandsThere) {
 TEST(OpenTheme, TypeThatIsNoNumberIsToldByAnException) {
     const TemporaryStore store;
     store.create("T");
-    for (const char* type : {"big", "", "99999999999999999999999", "4294967296"}) {
+    for (const char* type : {"big", "", "99999999999999999999999", "4294967296", "0x50000004", "1342177284x", "-1"}) {
         store.write("config/T_config.txt", std::string("type=") + type + "\n");
         if (*type)
             EXPECT_THROW(static_cast<void>(store.open("T")), std::invalid_argument) << type;

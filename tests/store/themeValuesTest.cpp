@@ -93,11 +93,22 @@ TEST(Values, NamesakeThatTakesPartIsMeantAndItsTwinFollows) {
     const auto theme = store.create("twins", {0, false, false});
     const std::string picture = store.write("new.9.png", test::pngHeader(30, 30));
     ASSERT_EQ(theme->clearFile(path), 0);
+    EXPECT_EQ(theme->getValueNth(path, 2), "") << "the twin's file is gone, too";
     EXPECT_EQ(theme->clearFile(path), 0) << "nothing is left to remove";
     ASSERT_EQ(theme->setValueNth(path, 2, picture), 0);
     EXPECT_EQ(theme->getValueNth(path, 1), theme->getValueNth(path, 2));
     EXPECT_EQ(test::readFile(theme->getValueNth(path, 1)), test::pngHeader(30, 30));
     EXPECT_EQ(theme->clearFile({"nothing"}), -14);
+}
+
+TEST(Values, TextThatReadsLikeAPathNeverStandsForTheFile) {
+    const TemporaryStore store;
+    const auto theme = store.create("T");
+    const std::string precious = store.write("precious.txt", "precious");
+    ASSERT_EQ(theme->setValue({}, "title", precious), 0);
+    EXPECT_EQ(theme->clearFile({"title"}), 0);
+    EXPECT_EQ(test::readFile(precious), "precious");
+    EXPECT_EQ(theme->getValue({}, "title"), precious);
 }
 
 TEST(Values, FileIsPutBackToTheTemplates) {

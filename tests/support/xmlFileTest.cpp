@@ -68,5 +68,16 @@ TEST(XmlFile, DocumentIsWrittenWithDeclarationAndReadBack) {
     EXPECT_FALSE(saveXml(written, folder.path("missing/theme.xml")));
 }
 
+TEST(XmlFile, ElementOfMoreAttributesThanAnyThemeHasIsRefusedAtOnce) {
+    const test::TemporaryFolder folder;
+    tinyxml2::XMLDocument document;
+    for (const int count : {1000, 1001, 1000000}) {
+        std::string text = "<a><b";
+        for (int index = 0; index < count; ++index)
+            text += " a" + std::to_string(index) + "=''";
+        EXPECT_EQ(loadXml(document, folder.write("a.xml", text + "/></a>")), count <= 1000) << count;
+    }
+}
+
 } // namespace
 } // namespace zdt

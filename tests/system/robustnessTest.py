@@ -148,6 +148,52 @@ class DiskTest(StoreTest):
         self.assertEqual(snapshot(root), before)
 
 
+class ConcurrencyTest(StoreTest):
+    """Several runs of the program on one store at once."""
+
+    def run_all(self, root, commands):
+        runs = [subprocess.Popen([ZDT, "--root", root, *command], stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
+                for command in commands]
+        return [(run.communicate(timeout=SECONDS)[1].decode(), run.returncode) for run in runs]
+
+    def test_each_of_many_values_is_kept(self):
+        root = self.path("root")
+        self.must(root, "new", "T", "--generation", "9")
+        keys = [node["key"] for node in json.loads(self.must(root, "tree", "T", "--json"))
+                if node["key"].startswith("contacts/text/") and node["applicable"]][:20]
+        results = self.run_all(root, [("set", "T", key, f"#0000{index:02x}") for index, key in enumerate(keys)])
+        self.assertEqual(results, [("", 0)] * len(keys))
+        for index, key in enumerate(keys):
+            self.assertEqual(self.must(root, "get", "T", key), f"#0000{index:02x}\n")
+
+    def test_each_package_of_two_exports_is_whole(self):
+        root = self.path("root")
+        self.must(root, "new", "T", "--generation", "9")
+        self.must(root, "export", "T", self.path("whole.zdt"))
+        names = sorted(zipfile.ZipFile(self.path("whole.zdt")).namelist())
+        for _ in range(5):
+            packages = [self.path("a.zdt"), self.path("b.zdt")]
+            self.assertEqual(self.run_all(root, [("export", "T", package) for package in packages]), [("", 0)] * 2)
+            for package in packages:
+                self.assertEqual(sorted(zipfile.ZipFile(package).namelist()), names)
+
+    def test_one_of_several_makers_of_a_theme_wins(self):
+        root = self.path("root")
+        results = self.run_all(root, [("new", "T", "--generation", generation) for generation in "589"])
+        self.assertEqual(sorted(code for _, code in results), [0, 1, 1])
+        self.must(root, "check", "T")
+
+
+class OutputTest(StoreTest):
+    def test_output_that_cannot_be_written_is_a_failure(self):
+        root = self.path("root")
+        self.must(root, "new", "T", "--generation", "9")
+        with open("/dev/full", "w") as full:
+            result = subprocess.run([ZDT, "--root", root, "tree", "T"], stdout=full, stderr=subprocess.PIPE, text=True,
+                                    timeout=SECONDS)
+        self.assertEqual((result.returncode, result.stderr), (1, "zdt: standard output: it couldn't be written\n"))
+
+
 class KillTest(StoreTest):
     """The program is killed at moments spread over its run."""
 

@@ -1,6 +1,6 @@
-#include "cli/keyText.h"
+#include "store/keyText.h"
 
-#include "modules/themeNode.h"
+#include "model/resNode.h"
 #include "store/themeResource.h"
 #include "support/pattern.h"
 
@@ -11,16 +11,7 @@ namespace zdt {
 
 namespace {
 
-ResNode* firstApplicable(const ResNode& block, const std::string& name) {
-    ResNode* const first = block.findChild(name);
-    for (ResNode* node = first; node; node = block.findChild(name, node)) {
-        if (node->isApplicable())
-            return node;
-    }
-    return first;
-}
-
-/// Takes a number off the end of a name: false if it has none.
+/// Takes a number off the end of a name; false if it has none.
 bool splitNumber(std::string& name, int& number) {
     std::vector<std::string> groups;
     if (!matchesPattern(name, R"((.+)#(\d{1,4}))", groups))
@@ -28,13 +19,6 @@ bool splitNumber(std::string& name, int& number) {
     std::from_chars(groups[1].data(), groups[1].data() + groups[1].size(), number);
     name = groups[0];
     return true;
-}
-
-ResNode* nthNamesake(const ResNode& block, const std::string& name, int number) {
-    ResNode* node = number > 0 ? block.findChild(name) : nullptr;
-    for (int counted = 1; node && counted < number; ++counted)
-        node = block.findChild(name, node);
-    return node;
 }
 
 } // namespace
@@ -46,13 +30,16 @@ Key findKey(const ThemeResource& theme, const std::string& text) {
         return key;
     key.name = key.block.back();
     key.block.pop_back();
-    const ResNode* block = theme.tree().findByPath(key.block);
-    if (!block)
-        return key;
-    key.node = firstApplicable(*block, key.name);
+    key.node = theme.findLeaf(key.block, key.name);
     if (!key.node && splitNumber(key.name, key.number))
-        key.node = nthNamesake(*block, key.name, key.number);
+        key.node = theme.findNthNode(key.namesakes(), key.number);
     return key;
+}
+
+KeyPath Key::namesakes() const {
+    KeyPath path = block;
+    path.push_back(name);
+    return path;
 }
 
 std::string keyTextOf(const ResNode& node) {

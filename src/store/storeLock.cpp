@@ -1,0 +1,30 @@
+#include "store/storeLock.h"
+
+#include "support/files.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace zdt {
+
+StoreLock::StoreLock(const std::string& folder) {
+    if (!makePath(folder))
+        return;
+    _descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    while (_descriptor >= 0 && ::flock(_descriptor, LOCK_EX) != 0) {
+        if (errno == EINTR)
+            continue;
+        ::close(_descriptor);
+        _descriptor = -1;
+    }
+}
+
+StoreLock::~StoreLock() {
+    if (_descriptor >= 0)
+        ::close(_descriptor);
+}
+
+} // namespace zdt
