@@ -74,7 +74,7 @@ bool AmazingChild::copyResources(const std::string& sourceDirectory, const std::
     if (!names)
         return false;
     for (const std::string& file : *names) {
-        if (!isBareFileName(file) || !copyFile(sourceDirectory + file, targetDirectory + file))
+        if (!isBareFileName(file) || !linkOrCopyFile(sourceDirectory + file, targetDirectory + file))
             return false;
     }
     for (const auto& child : _children) {

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <string_view>
 #include <unordered_set>
 
 namespace zdt {
@@ -52,23 +53,40 @@ std::vector<std::string> mergeKeyLists(const std::vector<KeyList>& lists) {
     return merged;
 }
 
-ConfigResNode::ConfigResNode(ResNode* parent, TypeMask mask, std::string name, ConfigBlock block)
-    : ResNode(parent, mask, std::move(name))
-    , _rootElement("resources")
-    , _defaultType(std::move(block.defaultType))
-    , _typeMap(std::move(block.types)) {
-    setValueKind(blockKind);
-    setPath(std::move(block.directory));
+ConfigKeys resolveKeys(const ConfigBlock& block) {
+    ConfigKeys resolved{{}, block.defaultType, block.types};
     std::map<std::string, TypeMask> masks;
     for (const auto& [listMask, keys] : block.keyLists) {
         for (const std::string& key : keys)
             masks[key] |= listMask;
     }
-    for (const std::string& key : mergeKeyLists(block.keyLists)) {
-        if (typeOf(key) == colourType)
-            adopt(std::make_unique<ColorTextResNode>(masks[key], key, block.defaults[key]));
+    const auto find = [](const std::map<std::string, std::string>& map, const std::string& key,
+                         const std::string& otherwise) {
+        const auto entry = map.find(key);
+        return entry == map.end() ? otherwise : entry->second;
+    };
+    for (const std::string& key : mergeKeyLists(block.keyLists))
+        resolved.keys.push_back(
+            {key, masks[key], find(block.defaults, key, {}), find(block.types, key, block.defaultType)});
+    return resolved;
+}
+
+ConfigResNode::ConfigResNode(ResNode* parent, TypeMask mask, std::string name, const ConfigBlock& block)
+    : ConfigResNode(parent, mask, std::move(name), resolveKeys(block), block.directory) {}
+
+ConfigResNode::ConfigResNode(ResNode* parent, TypeMask mask, std::string name, const ConfigKeys& keys,
+                             std::string directory)
+    : ResNode(parent, mask, std::move(name))
+    , _rootElement("resources")
+    , _defaultType(keys.defaultType)
+    , _typeMap(keys.types) {
+    setValueKind(blockKind);
+    setPath(std::move(directory));
+    for (const ConfigKeys::Key& key : keys.keys) {
+        if (key.type == colourType)
+            adopt(std::make_unique<ColorTextResNode>(key.mask, key.name, key.fallback));
         else
-            adopt(std::make_unique<TextResNode>(masks[key], key, block.defaults[key]));
+            adopt(std::make_unique<TextResNode>(key.mask, key.name, key.fallback));
     }
     readFile();
 }
@@ -92,7 +110,7 @@ void ConfigResNode::readFile() {
     }
     const tinyxml2::XMLElement* root = document.RootElement();
     _rootElement = root->Name();
-    std::map<std::string, std::string> values;
+    std::map<std::string_view, const char*> values;
     for (const auto* element = root->FirstChildElement(); element; element = element->NextSiblingElement()) {
         const char* key = element->Attribute("name");
         const char* text = element->GetText();

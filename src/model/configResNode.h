@@ -22,6 +22,22 @@ struct ConfigBlock {
     std::string directory;                       ///< Relative to the theme's, ending in "/".
 };
 
+/// A block's keys in their merged order, each with all that makes its child. Many blocks share theirs, and merging
+/// takes time, so that they can be made once.
+struct ConfigKeys {
+    struct Key {
+        std::string name;
+        TypeMask mask = 0;
+        std::string fallback;
+        std::string type;
+    };
+    std::vector<Key> keys;
+    std::string defaultType;
+    std::map<std::string, std::string> types;
+};
+
+[[nodiscard]] ConfigKeys resolveKeys(const ConfigBlock& block);
+
 /// A node that stands for one `theme.xml`: its children are the values. They are read when the node is made, and
 /// written by `save` alone.
 ///
@@ -32,7 +48,8 @@ public:
     /// Builds a child for each key, a `ColorTextResNode` where the type is "color" and a `TextResNode` otherwise, and
     /// reads the file. A missing or broken file leaves the defaults, and a value that isn't allowed leaves the default
     /// and its code in the child's errors.
-    ConfigResNode(ResNode* parent, TypeMask mask, std::string name, ConfigBlock block);
+    ConfigResNode(ResNode* parent, TypeMask mask, std::string name, const ConfigBlock& block);
+    ConfigResNode(ResNode* parent, TypeMask mask, std::string name, const ConfigKeys& keys, std::string directory);
 
     /// Writes the file, making the directory, if there is a value to write. A file that couldn't be read is kept aside.
     /// False if that fails.

@@ -7,8 +7,6 @@
 #include "support/files.h"
 #include "support/text.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <array>
 
@@ -40,16 +38,19 @@ std::uint32_t fileKindOf(const std::string& path) {
 
 int FileResNode::validate(const std::string& value) {
     struct stat status {};
-    if (value.empty() || ::stat(value.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
-        return fail(returnCode::missingFile);
+    const bool exists = !value.empty() && ::stat(value.c_str(), &status) == 0;
+    const int code = exists ? codeOf(value, status) : returnCode::missingFile;
+    return code == 0 ? 0 : fail(code);
+}
+
+int FileResNode::codeOf(const std::string& path, const struct stat& status) const {
+    if (!S_ISREG(status.st_mode))
+        return returnCode::missingFile;
     const auto size = static_cast<std::uint64_t>(status.st_size);
     if (size == 0 || (_maxBytes != 0 && size > _maxBytes))
-        return fail(returnCode::wrongByteSize);
-    const std::uint32_t kind = fileKindOf(value);
-    if ((kind & _allowedKinds) == 0)
-        return fail(returnCode::wrongKind);
-    const int code = pictureSizeCode(value, kind);
-    return code == 0 ? 0 : fail(code);
+        return returnCode::wrongByteSize;
+    const std::uint32_t kind = fileKindOf(path);
+    return (kind & _allowedKinds) == 0 ? returnCode::wrongKind : pictureSizeCode(path, kind);
 }
 
 int FileResNode::pictureSizeCode(const std::string& path, std::uint32_t kind) const {
@@ -84,7 +85,7 @@ bool FileResNode::save(bool /*all*/) {
     const std::string target = targetPath();
     if (target.empty())
         return false;
-    return target == value() || (makePath(target) && copyFile(value(), target));
+    return target == value() || linkOrCopyFile(value(), target);
 }
 
 std::string FileResNode::defaultValue() const {
@@ -102,9 +103,13 @@ std::string FileResNode::targetPath() const {
 
 void FileResNode::loadFromTheme() {
     const std::string target = targetPath();
-    if (target.empty() || !pathExists(target))
+    struct stat status {};
+    if (target.empty() || ::stat(target.c_str(), &status) != 0)
         return;
-    setRawValue(validate(target) == 0 ? target : std::string());
+    const int code = codeOf(target, status);
+    if (code != 0)
+        static_cast<void>(fail(code));
+    setRawValue(code == 0 ? target : std::string());
 }
 
 std::vector<SizeRange> iconSizes(bool strict) {

@@ -2,6 +2,8 @@
 
 #include "model/resNode.h"
 
+#include <sys/stat.h>
+
 #include <cstdint>
 #include <memory>
 #include <string_view>
@@ -82,6 +84,7 @@ public:
     void loadFromTheme();
 
 private:
+    [[nodiscard]] int codeOf(const std::string& path, const struct stat& status) const;
     [[nodiscard]] int pictureSizeCode(const std::string& path, std::uint32_t kind) const;
 
     std::vector<SizeRange> _sizeRanges;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdio>
 #include <string>
 
 /// The pixel size of a picture, read from its header alone: no picture is decoded, and a large wallpaper's size is
@@ -16,13 +15,10 @@ struct PictureSize {
 };
 
 /// The size in a PNG's header, also in that of the early form with no length and type in front of it. 0 x 0 for
-/// anything else. The stream stands at the file's start.
-[[nodiscard]] PictureSize readPngSize(std::FILE* file);
-
-/// The size in a JPEG's first frame header. 0 x 0 for anything else. The stream stands at the file's start.
-[[nodiscard]] PictureSize readJpegSize(std::FILE* file);
-
+/// anything else.
 [[nodiscard]] PictureSize pngSize(const std::string& path);
+
+/// The size in a JPEG's first frame header. 0 x 0 for anything else.
 [[nodiscard]] PictureSize jpegSize(const std::string& path);
 
 } // namespace zdt

@@ -1,8 +1,6 @@
 #include "model/textResNode.h"
 
 #include "model/returnCode.h"
-#include "support/assertion.h"
-#include "support/pattern.h"
 
 #include <charconv>
 #include <cmath>
@@ -12,10 +10,14 @@ namespace zdt {
 
 namespace {
 
-constexpr const char* source = "textResNode";
 constexpr int plainTextKind = 1;
 constexpr int colourKind = 2;
 constexpr int notAColour = -1;
+
+const Pattern& colourPattern() {
+    static const Pattern& pattern = Pattern::of(std::string(colorRegularPattern));
+    return pattern;
+}
 
 } // namespace
 
@@ -30,11 +32,11 @@ TextResNode::TextResNode(TypeMask mask, std::string name, std::string value)
 }
 
 int TextResNode::validate(const std::string& value) {
-    if (_regexStr.empty())
+    if (!_regex)
         return 0;
     if (value.empty())
         return fail(returnCode::emptyValue);
-    return matchesPattern(value, _regexStr) ? 0 : fail(returnCode::patternMismatch);
+    return _regex->matches(value) ? 0 : fail(returnCode::patternMismatch);
 }
 
 int TextResNode::setValue(const std::string& value) {
@@ -56,18 +58,17 @@ ColorTextResNode::ColorTextResNode(TypeMask mask, std::string name, std::string 
 
 void ColorTextResNode::becomeColour() {
     setValueKind(colourKind);
-    setRegex(std::string(colorRegularPattern));
+    setRegex(&colourPattern());
     const int alpha = alphaOf(splitColour(value()).first);
     if (alpha >= 0)
         _maxAlpha = static_cast<std::uint8_t>(alpha);
 }
 
 std::pair<std::string, std::string> ColorTextResNode::splitColour(const std::string& value) const {
-    ZDT_ASSERT(regex() == colorRegularPattern, source);
     std::vector<std::string> groups;
-    if (!matchesPattern(value, regex(), groups))
+    if (!colourPattern().matches(value, groups))
         return {};
-    return {groups[0], groups[1]};
+    return {std::move(groups[0]), std::move(groups[1])};
 }
 
 int ColorTextResNode::alphaOf(const std::string& pair) {

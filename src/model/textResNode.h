@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/resNode.h"
+#include "support/pattern.h"
 
 #include <cstdint>
 #include <string>
@@ -16,15 +17,18 @@ public:
     explicit TextResNode(TypeMask mask, std::string name = {}, std::string value = {});
 
     /// The regular expression that a whole value must match; empty allows every value, the empty one too.
-    [[nodiscard]] std::string regex() const { return _regexStr; }
-    void setRegex(std::string expression) { _regexStr = std::move(expression); }
+    [[nodiscard]] std::string regex() const { return _regex ? _regex->expression() : std::string(); }
+    void setRegex(const std::string& expression) { setRegex(expression.empty() ? nullptr : &Pattern::of(expression)); }
 
     /// -18 for an empty value, -19 for one that doesn't match.
     [[nodiscard]] int validate(const std::string& value) override;
     [[nodiscard]] int setValue(const std::string& value) override;
 
+protected:
+    void setRegex(const Pattern* pattern) { _regex = pattern; }
+
 private:
-    std::string _regexStr;
+    const Pattern* _regex = nullptr; ///< Null if every value is allowed.
 };
 
 /// The form of a colour: "#rrggbb", or "#aarrggbb" with the alpha in front. Group 1 is the alpha pair and may be empty,

@@ -25,7 +25,7 @@ ContactsNode::ContactsNode(ResNode* parent)
     : ResNode(parent, typeMask::everywhere, "contacts") {
     setPath("com.android.contacts/");
     emplaceChild<ImageContactsNode>();
-    addKeyBlock(*this, tables::contactsKeys);
+    addKeyBlock<tables::contactsKeys>(*this);
     emplaceChild<CommonSettingNode>();
 }
 
@@ -33,21 +33,21 @@ PhoneNode::PhoneNode(ResNode* parent)
     : ResNode(parent, typeMask::everywhere, "phone") {
     setPath("com.android.phone/");
     emplaceChild<ImagePhoneNode>();
-    addKeyBlock(*this, tables::phoneKeys);
+    addKeyBlock<tables::phoneKeys>(*this);
     emplaceChild<CommonSettingNode>();
 }
 
 SystemuiNode::SystemuiNode(ResNode* parent)
     : ResNode(parent, typeMask::everywhere, "systemui") {
     setPath("com.android.systemui/");
-    addKeyBlock(*this, tables::systemuiKeys);
+    addKeyBlock<tables::systemuiKeys>(*this);
     emplaceChild<ImageSystemuiNode>();
     emplaceChild<CommonSettingNode>();
 }
 
 void addRecorderModule(ResNode& theme) {
     ResNode& module = addPlainModule(theme, "recorder", "com.android.phone.recorder/");
-    addKeyBlock(module, tables::recorderKeys);
+    addKeyBlock<tables::recorderKeys>(module);
     module.emplaceChild<CommonSettingNode>();
 }
 
@@ -60,7 +60,7 @@ void addTelecomModule(ResNode& theme) {
 void addMmsModule(ResNode& theme) {
     ResNode& module = addPlainModule(theme, "mms", "com.android.mms/");
     module.emplaceChild<ImageMmsNode>();
-    addKeyBlock(module, tables::mmsKeys);
+    addKeyBlock<tables::mmsKeys>(module);
     module.emplaceChild<CommonSettingNode>();
 }
 

@@ -13,7 +13,7 @@ CommonSettingNode::CommonSettingNode(ResNode* parent)
     ZDT_ASSERT(!directoryPath.empty(), "commonSettingNode");
     setPath(directoryPath + "framework-res-zdext/");
     emplaceChild<ImageCommonSettingNode>();
-    addKeyBlock(*this, tables::commonSettingKeys);
+    addKeyBlock<tables::commonSettingKeys>(*this);
 }
 
 } // namespace zdt

@@ -8,10 +8,9 @@ constexpr const char* defaultKeyType = "color";
 
 } // namespace
 
-ConfigBlock makeKeyBlock(std::span<const tables::KeyRow> rows, TypeMask kinds, std::string directory) {
+ConfigKeys makeKeys(std::span<const tables::KeyRow> rows, TypeMask kinds) {
     ConfigBlock block;
     block.defaultType = defaultKeyType;
-    block.directory = std::move(directory);
     for (const tables::KeyRow& row : rows) {
         const TypeMask mask = kinds | row.generations;
         if (block.keyLists.empty() || block.keyLists.back().first != mask)
@@ -21,11 +20,7 @@ ConfigBlock makeKeyBlock(std::span<const tables::KeyRow> rows, TypeMask kinds, s
         if (row.type != defaultKeyType)
             block.types[key] = row.type;
     }
-    return block;
-}
-
-ConfigResNode& addKeyBlock(ResNode& module, std::span<const tables::KeyRow> rows, TypeMask kinds) {
-    return module.emplaceChild<ConfigResNode>(module.typeMask(), "text", makeKeyBlock(rows, kinds, module.path()));
+    return resolveKeys(block);
 }
 
 } // namespace zdt

@@ -4,7 +4,6 @@
 #include "modules/tables/keyRow.h"
 
 #include <span>
-#include <string>
 
 namespace zdt {
 
@@ -13,11 +12,15 @@ inline constexpr TypeMask applicationKeys = typeMask::everyKind & ~typeMask::sma
 /// The launcher's keys take part in small themes too.
 inline constexpr TypeMask launcherKeys = typeMask::everyKind;
 
-/// A table of keys as a block. Neighbouring rows of the same generations make one key list, whose mask is `kinds` and
-/// those generations.
-[[nodiscard]] ConfigBlock makeKeyBlock(std::span<const tables::KeyRow> rows, TypeMask kinds, std::string directory);
+/// A table of keys as those of a block. Neighbouring rows of the same generations make one key list, whose mask is
+/// `kinds` and those generations.
+[[nodiscard]] ConfigKeys makeKeys(std::span<const tables::KeyRow> rows, TypeMask kinds);
 
-/// Appends the block of an application's keys, named "text", to its module node.
-ConfigResNode& addKeyBlock(ResNode& module, std::span<const tables::KeyRow> rows, TypeMask kinds = applicationKeys);
+/// Appends the block of a table's keys, named "text", to a module node.
+template <const auto& Rows, TypeMask Kinds = applicationKeys>
+ConfigResNode& addKeyBlock(ResNode& module) {
+    static const ConfigKeys keys = makeKeys(Rows, Kinds);
+    return module.emplaceChild<ConfigResNode>(module.typeMask(), "text", keys, module.path());
+}
 
 } // namespace zdt

@@ -13,7 +13,7 @@ LancherNode::LancherNode(ResNode* parent)
     : ResNode(parent, typeMask::everywhere, "launcher") {
     setPath("com.zendro.android.launcher/");
     emplaceChild<ImageLancherNode>();
-    const ConfigResNode& keys = addKeyBlock(*this, tables::launcherKeys, launcherKeys);
+    const ConfigResNode& keys = addKeyBlock<tables::launcherKeys, launcherKeys>(*this);
 
     // These two shadows may be given any alpha, although their default is wholly transparent.
     for (const char* name : {"folder_app_text_shadowColor", "folderadd_text_shadowColor"}) {

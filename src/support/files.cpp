@@ -3,6 +3,7 @@
 #include "support/atomicFile.h"
 #include "support/text.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -86,10 +87,21 @@ bool removeFile(const std::string& path) {
     return ::unlink(path.c_str()) == 0;
 }
 
-std::string readFile(const std::string& path) {
-    std::string content(fileSize(path), '\0');
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rbe"), &std::fclose);
-    content.resize(file ? std::fread(content.data(), 1, content.size(), file.get()) : 0);
+std::optional<std::string> readFile(const std::string& path, std::uint64_t maxBytes) {
+    // Without O_NONBLOCK a pipe would wait for somebody to write.
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0)
+        return std::nullopt;
+    std::optional<std::string> content;
+    struct stat status {};
+    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
+        static_cast<std::uint64_t>(status.st_size) <= maxBytes) {
+        content.emplace(static_cast<std::size_t>(status.st_size), '\0');
+        const ssize_t length = ::read(descriptor, content->data(), content->size());
+        if (length != status.st_size)
+            content.reset();
+    }
+    ::close(descriptor);
     return content;
 }
 
@@ -108,6 +120,13 @@ bool copyFile(const std::string& source, const std::string& destination, Flush f
             return false;
     }
     return std::ferror(input.get()) == 0 && output.commit(flush);
+}
+
+bool linkOrCopyFile(const std::string& source, const std::string& destination) {
+    if (!isPlainFile(source) || !makePath(destination))
+        return false;
+    return ::linkat(AT_FDCWD, source.c_str(), AT_FDCWD, destination.c_str(), AT_SYMLINK_FOLLOW) == 0 ||
+           copyFile(source, destination);
 }
 
 bool copyTree(std::string source, std::string destination) {

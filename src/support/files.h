@@ -36,12 +36,16 @@ void normalisePath(std::string& path);
 /// Removes one file.
 [[nodiscard]] bool removeFile(const std::string& path);
 
-/// The whole content of a file, as far as it can be read.
-[[nodiscard]] std::string readFile(const std::string& path);
+/// The whole content of a plain file; nothing if it can't be read or holds more than `maxBytes`.
+[[nodiscard]] std::optional<std::string> readFile(const std::string& path, std::uint64_t maxBytes);
 
 /// Copies a plain file's bytes, making the target's folder. The target is written whole or not at all. True with no
 /// copying when the two paths are equal.
 [[nodiscard]] bool copyFile(const std::string& source, const std::string& destination, Flush flush = Flush::no);
+
+/// Makes `destination` the same file as `source` where the file system can, and copies it otherwise. For copies that
+/// nothing writes into: files of a theme are only ever replaced.
+[[nodiscard]] bool linkOrCopyFile(const std::string& source, const std::string& destination);
 
 /// Copies what a folder holds into another, merging with what stands there. A missing source copies nothing and is no
 /// failure. Both must be named.

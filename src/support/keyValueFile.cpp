@@ -29,9 +29,7 @@ KeyValues parseKeyValues(std::string_view text) {
 }
 
 KeyValues readKeyValueFile(const std::string& path) {
-    if (!isPlainFile(path) || fileSize(path) > maxKeyValueBytes)
-        return {};
-    return parseKeyValues(readFile(path));
+    return parseKeyValues(readFile(path, maxKeyValueBytes).value_or(std::string()));
 }
 
 bool writeKeyValueFile(const std::string& path, const KeyValues& pairs, Flush flush) {

@@ -4,6 +4,7 @@
 #include "support/files.h"
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace zdt {
@@ -30,10 +31,8 @@ bool hasFewAttributes(std::string_view text) {
 
 bool loadXml(tinyxml2::XMLDocument& document, const std::string& path) {
     document.Clear();
-    if (!isPlainFile(path) || fileSize(path) > maxXmlBytes)
-        return false;
-    const std::string text = readFile(path);
-    if (hasFewAttributes(text) && document.Parse(text.data(), text.size()) == tinyxml2::XML_SUCCESS &&
+    const std::optional<std::string> text = readFile(path, maxXmlBytes);
+    if (text && hasFewAttributes(*text) && document.Parse(text->data(), text->size()) == tinyxml2::XML_SUCCESS &&
         document.RootElement())
         return true;
     document.Clear();
