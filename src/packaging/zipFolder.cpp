@@ -14,17 +14,6 @@ namespace {
 
 constexpr int newArchive = ZIP_CREATE | ZIP_TRUNCATE;
 
-bool addFile(zip_t* archive, const std::string& path, const std::string& entryName) {
-    // libzip looks for the file only when the archive is closed, and a missing one would then cost all others.
-    zip_source_t* source = isPlainFile(path) ? zip_source_file(archive, path.c_str(), 0, 0) : nullptr;
-    if (!source)
-        return false;
-    if (zip_file_add(archive, entryName.c_str(), source, ZIP_FL_ENC_UTF_8) >= 0)
-        return true;
-    zip_source_free(source);
-    return false;
-}
-
 void reportProgress(zip_t* /*archive*/, double done, void* progress) {
     (*static_cast<const Progress*>(progress))(done);
 }

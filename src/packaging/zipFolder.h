@@ -23,6 +23,12 @@ namespace zdt {
 [[nodiscard]] bool ZipFolder(const std::string& folderPath, const std::string& archivePath, bool keepRoot,
                              const Progress& progress = {});
 
+/// What `ZipFolder` without `keepRoot` writes, on all cores: the files are packed into a few archives in `workFolder`,
+/// side by side, and the entries are then put together as they are. What lies in `workFolder` is the caller's to
+/// remove.
+[[nodiscard]] bool ZipFolderOnAllCores(const std::string& folderPath, const std::string& archivePath,
+                                       const std::string& workFolder, const Progress& progress = {});
+
 /// Adds the files below `baseFolder` + `entryPrefix` to an open archive, under names that begin with the prefix, and at
 /// the end an entry for the prefix itself if `addDirEntry` is set.
 [[nodiscard]] bool ZipFolderWalk(zip* archive, const std::string& baseFolder, const std::string& entryPrefix,

@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <optional>
 #include <string_view>
 
@@ -47,6 +48,15 @@ bool foldModule(const std::string& scratch, const std::string& folder) {
     if (entries && entries->empty())
         return RemoveFolder(path);
     return ZipFolder(path, name + ".zip", false) && RemoveFolder(path) && moveIntoPlace(name + ".zip", name, Flush::no);
+}
+
+/// The largest first, so that no core is left with one at the end.
+void sortBySize(std::vector<std::string>& folders, const std::string& parent) {
+    std::map<std::string, std::uint64_t> sizes;
+    for (const std::string& folder : folders)
+        sizes[folder] = treeSize(parent + folder);
+    std::sort(folders.begin(), folders.end(),
+              [&](const std::string& a, const std::string& b) { return sizes[a] > sizes[b]; });
 }
 
 /// Puts a finished package in its place, which may lie on another file system. The folder there never holds half of
@@ -197,6 +207,7 @@ bool ThemeResource::exportTo(const std::string& packagePath, const Progress& pro
     std::erase_if(modules, [](const std::string& name) {
         return std::find(plainFolders.begin(), plainFolders.end(), name) != plainFolders.end();
     });
+    sortBySize(modules, scratch);
     if (!parallelFor(
             modules.size(), [&](std::size_t index) { return foldModule(scratch, modules[index]); },
             partOf(progress, savedShare, foldedShare)))
@@ -205,7 +216,7 @@ bool ThemeResource::exportTo(const std::string& packagePath, const Progress& pro
     const std::string staging = stagingFolder(_rootDirectory, _name);
     const std::string finished = staging + "package";
     const bool written = RemoveFolder(staging) && CreateFolderPath(staging) &&
-                         ZipFolder(scratch, finished, false, partOf(progress, foldedShare, 1)) &&
+                         ZipFolderOnAllCores(scratch, finished, staging, partOf(progress, foldedShare, 1)) &&
                          placePackage(finished, packagePath);
     static_cast<void>(RemoveFolder(staging));
     return written;

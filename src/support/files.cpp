@@ -123,10 +123,12 @@ bool copyFile(const std::string& source, const std::string& destination, Flush f
 }
 
 bool linkOrCopyFile(const std::string& source, const std::string& destination) {
-    if (!isPlainFile(source) || !makePath(destination))
+    if (!isPlainFile(source))
         return false;
-    return ::linkat(AT_FDCWD, source.c_str(), AT_FDCWD, destination.c_str(), AT_SYMLINK_FOLLOW) == 0 ||
-           copyFile(source, destination);
+    const auto link = [&] {
+        return ::linkat(AT_FDCWD, source.c_str(), AT_FDCWD, destination.c_str(), AT_SYMLINK_FOLLOW) == 0;
+    };
+    return link() || (makePath(destination) && (link() || copyFile(source, destination)));
 }
 
 bool copyTree(std::string source, std::string destination) {

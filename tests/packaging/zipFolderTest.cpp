@@ -105,6 +105,24 @@ TEST(ZipFolder, ArchiveOfAnEmptyFolderLeavesNoFile) {
     EXPECT_FALSE(pathExists(folder.path("a.zip")));
 }
 
+TEST(ZipFolder, OnAllCoresTheSameEntriesComeOut) {
+    const TemporaryFolder folder;
+    for (int index = 0; index < 40; ++index)
+        folder.write("in/" + std::string(index % 3 == 0 ? "sub/" : "") + std::to_string(index),
+                     std::string(static_cast<std::size_t>(index) * 100, static_cast<char>('a' + index)));
+    ASSERT_TRUE(CreateFolderPath(folder.path("in/hollow")) && CreateFolderPath(folder.path("work")));
+    ASSERT_TRUE(ZipFolder(folder.path("in/"), folder.path("one.zip"), false));
+    ASSERT_TRUE(ZipFolderOnAllCores(folder.path("in/"), folder.path("all.zip"), folder.path("work/")));
+    EXPECT_EQ(entriesOf(folder.path("all.zip")), entriesOf(folder.path("one.zip")));
+    ASSERT_TRUE(UnzipToFolder(folder.path("all.zip"), folder.path("out/")));
+    EXPECT_TRUE(holdsAllOf(folder.path("out/"), folder.path("one.zip")));
+    for (const std::string& name : test::namesIn(folder.path("in/sub/")))
+        EXPECT_TRUE(test::readFile(folder.path("out/sub/" + name)) == test::readFile(folder.path("in/sub/" + name)));
+    EXPECT_FALSE(ZipFolderOnAllCores(folder.path("none/"), folder.path("all.zip"), folder.path("work/")));
+    EXPECT_FALSE(ZipFolderOnAllCores(folder.path("in/"), folder.path("all.zip"), folder.path("none/")));
+    EXPECT_TRUE(holdsAllOf(folder.path("out/"), folder.path("all.zip"))) << "what stood there stays";
+}
+
 TEST(ZipFolder, LinksNeitherLeaveTheFolderNorRunInCircles) {
     const TemporaryFolder folder;
     folder.write("in/a", "a");
