@@ -86,15 +86,15 @@ public:
     }
 
 private:
-    CLI::App* add(const std::string& name, const std::string& description, Command command) {
+    CLI::App* add(const std::string& name, const std::string& description, const Command& command) {
         CLI::App* subcommand = _app.add_subcommand(name, description);
         subcommand->fallthrough();
         subcommand->callback([this, command] { _chosen = command; });
         return subcommand;
     }
 
-    CLI::App* addNamed(const std::string& name, const std::string& description, Command command) {
-        CLI::App* subcommand = add(name, description, std::move(command));
+    CLI::App* addNamed(const std::string& name, const std::string& description, const Command& command) {
+        CLI::App* subcommand = add(name, description, command);
         subcommand->add_option("NAME", _arguments.name, "The theme")->required();
         return subcommand;
     }

@@ -74,7 +74,7 @@ std::string readUnlockType(const std::string& themeDirectory, DamagedXml& damage
             items[attribute->Name()] = attribute->Value();
     }
     const std::string style = items["style"];
-    const std::string type = style.empty() ? unlockType::slide : style;
+    std::string type = style.empty() ? unlockType::slide : style;
     if (type != unlockType::slide)
         return type;
     const std::string package = items["package"];

@@ -15,7 +15,6 @@ namespace zdt {
 namespace {
 
 using namespace std::string_literals;
-using test::namesIn;
 using test::readFile;
 using test::TemporaryFolder;
 using Names = std::vector<std::string>;
