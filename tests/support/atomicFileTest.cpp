@@ -103,5 +103,17 @@ TEST(AtomicFile, FlushTellsAMissingPath) {
     EXPECT_FALSE(moveIntoPlace(folder.path("missing"), folder.path("target"), Flush::no));
 }
 
+TEST(AtomicFile, FoldersChangePlacesWithAllThatTheyHold) {
+    const TemporaryFolder folder;
+    folder.write("a/x", "from a");
+    folder.write("b/y", "from b");
+    EXPECT_TRUE(exchangePlaces(folder.path("a"), folder.path("b")));
+    EXPECT_EQ(test::readFile(folder.path("b/x")), "from a");
+    EXPECT_EQ(test::readFile(folder.path("a/y")), "from b");
+    EXPECT_FALSE(exchangePlaces(folder.path("missing"), folder.path("b")));
+    EXPECT_EQ(test::readFile(folder.path("b/x")), "from a") << "back in its place";
+    EXPECT_EQ(test::namesIn(folder.path()), (std::vector<std::string>{"a", "b"}));
+}
+
 } // namespace
 } // namespace zdt

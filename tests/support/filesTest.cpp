@@ -216,5 +216,47 @@ TEST(Files, ProgramFolderHoldsThisProgram) {
     EXPECT_TRUE(isPlainFile(directory + fs::read_symlink("/proc/self/exe").filename().string()));
 }
 
+TEST(Files, LinkedCopyIsTheFileItselfUntilEitherIsReplaced) {
+    const TemporaryFolder folder;
+    const std::string source = folder.write("in/a", "content");
+    fs::create_symlink("a", folder.path("in/link"));
+    ASSERT_EQ(::mkfifo(folder.path("in/pipe").c_str(), 0600), 0);
+    EXPECT_TRUE(linkOrCopyFile(source, folder.path("out/deep/a")));
+    EXPECT_TRUE(fs::equivalent(source, folder.path("out/deep/a")));
+    EXPECT_TRUE(linkOrCopyFile(folder.path("in/link"), folder.path("out/b")));
+    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(folder.path("out/b")))) << "the content, not the link";
+    EXPECT_FALSE(linkOrCopyFile(folder.path("in/pipe"), folder.path("out/c")));
+    EXPECT_FALSE(linkOrCopyFile(folder.path("in/missing"), folder.path("out/c")));
+    EXPECT_TRUE(linkOrCopyFile(folder.write("in/d", "other"), folder.path("out/b"))) << "what stands there is replaced";
+    EXPECT_EQ(test::readFile(folder.path("out/b")), "other");
+    ASSERT_TRUE(writeFile(source, "changed"));
+    EXPECT_EQ(test::readFile(folder.path("out/deep/a")), "content");
+}
+
+TEST(Files, PathIsInsideAFolderWhateverItsSpelling) {
+    const TemporaryFolder folder;
+    folder.write("store/res/T/a", "");
+    fs::create_symlink("store/res", folder.path("alias"));
+    const struct {
+        const char* path;
+        bool inside;
+    } cases[] = {
+        {"store/res/T/a", true}, {"store/res/new/b", true}, {"store/res", true},     {"store/res/../res/x", true},
+        {"alias/T/x", true},     {"store/./res//x", true},  {"store/result", false}, {"store/res/../../res", false},
+        {"store/x", false}};
+    for (const auto& [path, inside] : cases)
+        EXPECT_EQ(isInside(folder.path(path), folder.path("store/res/")), inside) << path;
+}
+
+TEST(Files, WholeFileIsReadUpToItsBound) {
+    const TemporaryFolder folder;
+    const std::string file = folder.write("a", "12345");
+    ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(zdt::readFile(file, 5), "12345");
+    EXPECT_EQ(zdt::readFile(file, 4), std::nullopt);
+    EXPECT_EQ(zdt::readFile(folder.path("pipe"), 5), std::nullopt);
+    EXPECT_EQ(zdt::readFile(folder.path(), 5), std::nullopt);
+}
+
 } // namespace
 } // namespace zdt
