@@ -214,7 +214,8 @@ int runZdt(int argc, const char* const* argv, std::ostream& out, std::ostream& e
     try {
         grammar.app().parse(shielded(argc, argv));
     } catch (const CLI::Success& success) { // --help and --version
-        return grammar.app().exit(success, out, err);
+        static_cast<void>(grammar.app().exit(success, out, err));
+        return out.flush() ? 0 : refusedStatus;
     } catch (const CLI::ParseError& error) {
         const std::vector<std::string> unknown = grammar.app().remaining();
         const bool noCommand = grammar.app().get_subcommands().empty() && !unknown.empty();

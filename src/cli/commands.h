@@ -34,6 +34,11 @@ int checkCommand(const Context& context, const std::string& name);
 int exportCommand(const Context& context, const std::string& name, const std::string& file);
 int importCommand(const Context& context, const std::string& file, bool replace);
 
+[[nodiscard]] bool isListed(const Context& context, const std::string& name);
+
+/// Refuses a name in whose place something stands that is no theme: a file, or a link to somewhere else.
+void requireNoStranger(const Context& context, const std::string& name);
+
 /// Refuses a name that isn't among the themes.
 void requireListed(const Context& context, const std::string& name);
 

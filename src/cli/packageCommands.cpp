@@ -24,20 +24,21 @@ int exportCommand(const Context& context, const std::string& name, const std::st
                                 std::to_string(problems.size()) + " in all");
     if (pathExists(file) && !isPlainFile(file))
         throw Refusal(file, "something stands there that is no file");
-    const std::string root = storeRoot(context.root);
-    if (isInside(file, themesFolder(root)) || isInside(file, settingsFolder(root)))
-        throw Refusal(file, "a package can't stand among the themes or their settings");
+    if (isStorePath(storeRoot(context.root), file))
+        throw Refusal(file, "a package can't stand among the themes, their settings or the work in tmp/");
     if (!theme->exportTo(file, context.progress("export")))
         throw Refusal(file, "the package couldn't be written");
     return 0;
 }
 
 int importCommand(const Context& context, const std::string& file, bool replace) {
+    if (!pathExists(file))
+        throw Refusal(file, wordsFor(ImportFailure::missing));
     const std::string name = stem(file);
-    const std::string place = parentPath(themeFolder(storeRoot(context.root), name));
-    if (!replace && pathExists(file) && isThemeName(name) && pathExists(place))
-        throw Refusal(name, "there is a theme of that name already; --replace puts the package in its place");
     const ChangeLock lock(context);
+    requireNoStranger(context, name);
+    if (!replace && isListed(context, name))
+        throw Refusal(name, "there is a theme of that name already; --replace puts the package in its place");
     std::string imported;
     ImportFailure failure = ImportFailure::none;
     if (!ThemeResource::importTheme(file, imported, context.root, &failure, context.progress("import")))

@@ -15,11 +15,6 @@ namespace {
 
 constexpr const char* settingsNotWritten = "its settings couldn't be written";
 
-bool isListed(const Context& context, const std::string& name) {
-    const std::vector<std::string> names = ThemeResource::listThemes(context.root);
-    return std::find(names.begin(), names.end(), name) != names.end();
-}
-
 const char* generationName(unsigned index) {
     static constexpr std::array<const char*, generationCount + 1> names{"5", "8", "9", "none"};
     return names.at(index);
@@ -35,6 +30,17 @@ std::string maskText(TypeMask mask) {
     std::array<char, 16> text{};
     std::snprintf(text.data(), text.size(), "0x%08x", mask);
     return text.data();
+}
+
+bool isListed(const Context& context, const std::string& name) {
+    const std::vector<std::string> names = ThemeResource::listThemes(context.root);
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+void requireNoStranger(const Context& context, const std::string& name) {
+    const std::string place = parentPath(themeFolder(storeRoot(context.root), name));
+    if (isThemeName(name) && isTaken(place) && !isListed(context, name))
+        throw Refusal(name, "something stands in its place that is no theme: " + place);
 }
 
 void requireListed(const Context& context, const std::string& name) {
@@ -71,6 +77,7 @@ int newCommand(const Context& context, const NewTheme& request) {
     const ChangeLock lock(context);
     if (isListed(context, request.name))
         throw Refusal(request.name, "there is a theme of that name already");
+    requireNoStranger(context, request.name);
     const std::string source = locateTemplate(storeRoot(context.root), request.versionIndex);
     if (!isFolder(source))
         throw Refusal(request.name, "there is no template " + source);

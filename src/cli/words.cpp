@@ -40,6 +40,8 @@ std::string wordsFor(int code) {
         return "the picture's dimensions couldn't be read";
     case returnCode::damagedFile:
         return "the file is damaged and can't be read";
+    case returnCode::foreignVersion:
+        return "its first digit tells another generation than the theme's";
     default:
         return "it can't be done";
     }

@@ -23,5 +23,7 @@ inline constexpr int wrongKind = -21;         ///< The file's kind isn't allowed
 inline constexpr int wrongDimensions = -22;   ///< The picture's dimensions aren't allowed.
 inline constexpr int unreadablePicture = -23; ///< The picture's dimensions couldn't be read.
 inline constexpr int damagedFile = -24;       ///< A file of the theme is there but can't be read; in lists of problems.
+inline constexpr int foreignVersion =
+    -25; ///< The version tells another generation than the theme's; in lists of problems.
 
 } // namespace zdt::returnCode

@@ -153,8 +153,8 @@ void ThemeResource::addProblemsOf(ResNode& each, std::vector<Problem>& problems)
     // A file that stands in its place and was refused there tells more than a missing value.
     const bool stands = file && each.value().empty() && pathExists(file->targetPath());
     int code = each.validate(stands ? file->targetPath() : each.value());
-    if (code == returnCode::success && isForeignVersion(each))
-        code = returnCode::patternMismatch;
+    if (code == returnCode::success && isForeignVersion(each) && !_resTree->isDescriptionDamaged())
+        code = returnCode::foreignVersion;
     if (code == returnCode::success)
         return;
     if (&each == _amazingNode) {
@@ -193,12 +193,12 @@ bool ThemeResource::exportTo(const std::string& packagePath, const Progress& pro
     if (packagePath.empty() || (!folder.empty() && !isFolder(folder)) ||
         (pathExists(packagePath) && !isPlainFile(packagePath)))
         return false;
-    // A package among the themes or settings would pass for one of their files.
-    if (isInside(packagePath, themesFolder(_rootDirectory)) || isInside(packagePath, settingsFolder(_rootDirectory)))
+    if (isStorePath(_rootDirectory, packagePath))
         return false;
     const StoreLock lock(workFolder(_rootDirectory));
     if (!lock.isHeld())
         return false;
+    sweepStaging(_rootDirectory);
     const std::string scratch = scratchFolder(_rootDirectory, _name);
     if (!RemoveFolder(scratch) || !saveTo(scratch, partOf(progress, 0, savedShare)))
         return false;

@@ -5,6 +5,7 @@
 #include "store/themeResource.h"
 #include "support/files.h"
 
+#include <algorithm>
 #include <string_view>
 #include <vector>
 
@@ -84,7 +85,10 @@ bool writeImportedSettings(const std::string& root, const std::string& name) {
 /// the settings can't be written.
 bool takePlace(const std::string& fresh, const std::string& root, const std::string& name) {
     const std::string place = parentPath(themeFolder(root, name));
-    const bool stood = pathExists(place);
+    const std::vector<std::string> folders = listDirectories(themesFolder(root));
+    const bool stood = std::find(folders.begin(), folders.end(), name) != folders.end();
+    if (!stood && isTaken(place)) // A file or a link is no theme, and not ours to replace.
+        return false;
     const auto change = [&](const std::string& from, const std::string& to) {
         return stood ? exchangePlaces(from, to) : moveIntoPlace(from, to, Flush::no);
     };
@@ -124,6 +128,8 @@ bool ThemeResource::importTheme(const std::string& packagePath, std::string& out
         result = ImportFailure::badName;
     } else {
         const StoreLock lock(workFolder(rootDirectory));
+        if (lock.isHeld())
+            sweepStaging(rootDirectory);
         result = lock.isHeld() ? importPackage(path, outName, rootDirectory, progress) : ImportFailure::incomplete;
         static_cast<void>(RemoveFolder(stagingFolder(rootDirectory, outName)));
     }

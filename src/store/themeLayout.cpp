@@ -1,5 +1,6 @@
 #include "store/themeLayout.h"
 
+#include "support/files.h"
 #include "support/text.h"
 
 #include <algorithm>
@@ -47,6 +48,18 @@ std::string scratchFolder(const std::string& root, const std::string& name) {
 
 std::string stagingFolder(const std::string& root, const std::string& name) {
     return workFolder(root) + name + ".part/";
+}
+
+void sweepStaging(const std::string& root) {
+    for (const std::string& name : listDirectories(workFolder(root))) {
+        if (name.ends_with(".part"))
+            static_cast<void>(removeTree(workFolder(root) + name));
+    }
+}
+
+bool isStorePath(const std::string& root, const std::string& path) {
+    return isInside(path, themesFolder(root)) || isInside(path, settingsFolder(root)) ||
+           isInside(path, workFolder(root));
 }
 
 std::string settingsFolder(const std::string& root) {

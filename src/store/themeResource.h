@@ -81,8 +81,8 @@ public:
     /// receives. A failure leaves what stood there.
     [[nodiscard]] static bool importTheme(const std::string& packagePath, std::string& outName, const std::string& root,
                                           ImportFailure* failure = nullptr, const Progress& progress = {});
-    /// Removes a theme and every settings file whose name begins with the theme's and "_". Nothing is undone on
-    /// failure.
+    /// Removes a theme and every settings file whose name begins with the theme's and "_". A theme that
+    /// can't be moved out of its place stays whole.
     [[nodiscard]] static bool deleteTheme(const std::string& name, const std::string& root);
     /// The nine texts of a theme's description, empty where the file gives none.
     [[nodiscard]] static Description readDescription(const std::string& name, const std::string& root);

@@ -6,6 +6,7 @@
 #include "support/files.h"
 
 #include <algorithm>
+#include <cerrno>
 
 /// The operations of the store on themes that aren't open: listing, making, deleting and reading about them.
 namespace zdt {
@@ -28,6 +29,23 @@ bool copyTemplateTree(const std::string& source, const std::string& target) {
     return true;
 }
 
+/// Removes a theme's folder. It is moved aside in one step first, so that no half theme is ever listed; where there is
+/// no room or no way to do that, it is removed in its place.
+bool removeTheme(const std::string& root, const std::string& name) {
+    const std::string place = parentPath(themeFolder(root, name));
+    if (!isTaken(place))
+        return true;
+    const StoreLock lock(workFolder(root));
+    const std::string aside = stagingFolder(root, name);
+    if (!lock.isHeld() || !removeTree(aside) || !makePath(aside))
+        return removeTree(place);
+    if (moveIntoPlace(place, aside + name, Flush::no))
+        return removeTree(aside);
+    const bool otherFileSystem = errno == EXDEV;
+    static_cast<void>(removeTree(aside));
+    return otherFileSystem && removeTree(place);
+}
+
 } // namespace
 
 std::vector<std::string> ThemeResource::listThemes(const std::string& root) {
@@ -42,6 +60,8 @@ bool ThemeResource::copyTemplate(const std::string& root, const std::string& nam
     const std::string staging = stagingFolder(root, name);
     const std::string target = themeFolder(root, name);
     const StoreLock lock(workFolder(root));
+    if (lock.isHeld())
+        sweepStaging(root);
     const bool placed = isFolder(source) && lock.isHeld() && removeTree(staging) && makePath(staging) &&
                         copyTemplateTree(source, staging) && makePath(themesFolder(root)) &&
                         moveIntoPlace(staging, parentPath(target), Flush::no);
@@ -83,7 +103,7 @@ bool ThemeResource::deleteTheme(const std::string& name, const std::string& root
     if (!isThemeName(name))
         return false;
     const std::string rootDirectory = storeRoot(root);
-    if (!removeTree(themeFolder(rootDirectory, name)))
+    if (!removeTheme(rootDirectory, name))
         return false;
     const std::string settings = settingsFolder(rootDirectory);
     const std::vector<std::string> files = listFiles(settings);

@@ -47,6 +47,11 @@ bool pathExists(const std::string& path) {
     return ::access(path.c_str(), F_OK) == 0;
 }
 
+bool isTaken(const std::string& path) {
+    struct stat status {};
+    return ::lstat(withoutTrailingSlash(path).c_str(), &status) == 0;
+}
+
 bool isPlainFile(const std::string& path) {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);

@@ -17,6 +17,9 @@ void normalisePath(std::string& path);
 /// Whether the path can be reached; true for files and for folders.
 [[nodiscard]] bool pathExists(const std::string& path);
 
+/// Whether anything stands at the path itself, a link that leads nowhere too.
+[[nodiscard]] bool isTaken(const std::string& path);
+
 /// Whether the path is a plain file, or a link to one: never a folder, a pipe or a device, on which a read could hang.
 [[nodiscard]] bool isPlainFile(const std::string& path);
 

@@ -47,7 +47,10 @@ void DamagedXml::note(const std::string& path) {
 bool DamagedXml::keepFrom(const std::string& path) {
     if (_path.empty() || _path != path)
         return true;
-    if (pathExists(path) && !moveIntoPlace(path, path + ".damaged", Flush::no))
+    std::string aside = path + ".damaged";
+    for (int number = 2; isTaken(aside); ++number)
+        aside = path + ".damaged-" + std::to_string(number);
+    if (pathExists(path) && !moveIntoPlace(path, aside, Flush::no))
         return false;
     _path.clear();
     return true;

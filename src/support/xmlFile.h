@@ -19,8 +19,8 @@ public:
     void note(const std::string& path);
     /// Empty if nothing is damaged.
     [[nodiscard]] const std::string& path() const { return _path; }
-    /// To be called before a document is written: moves the damaged file aside, to its name and ".damaged", if that is
-    /// where it stands.
+    /// To be called before a document is written: moves the damaged file aside, to its name and ".damaged" (or
+    /// ".damaged-2" and so on), if that is where it stands.
     [[nodiscard]] bool keepFrom(const std::string& path);
 
 private:

@@ -296,16 +296,20 @@ TEST_F(ZdtTest, WhatAThemeCannotKeepIsRefused) {
 
 TEST_F(ZdtTest, PackageNeverTakesThePlaceOfSomethingElse) {
     store.create("T");
-    for (const std::string file : {"res/T/description.xml", "config/T_config.txt", "res/new.zdt"})
+    for (const std::string file : {"res/T/description.xml", "config/T_config.txt", "res/new.zdt", "tmp/new.zdt"})
         expectRefusal({"export", "T", store.path(file)},
-                      store.path(file) + ": a package can't stand among the themes or their settings");
+                      store.path(file) +
+                          ": a package can't stand among the themes, their settings or the work in tmp/");
     ASSERT_EQ(::mkfifo(store.path("pipe").c_str(), 0600), 0);
     expectRefusal({"export", "T", store.path("pipe")}, store.path("pipe") + ": something stands there that is no file");
     EXPECT_EQ(run({"check", "T"}).status, 0);
 
     ASSERT_EQ(run({"export", "T", store.path("F.zdt")}).status, 0);
     store.write("res/F", "a plain file");
-    EXPECT_EQ(run({"import", store.path("F.zdt")}).status, 1);
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{"import", store.path("F.zdt")},
+                                                      {"import", "--replace", store.path("F.zdt")},
+                                                      {"new", "F", "--generation", "9"}})
+        expectRefusal(arguments, "F: something stands in its place that is no theme: " + store.path("res/F"));
     EXPECT_EQ(test::readFile(store.path("res/F")), "a plain file");
 }
 

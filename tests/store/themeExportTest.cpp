@@ -161,6 +161,13 @@ TEST(Check, DamagedDocumentIsListedAndKeptWhenItIsWrittenAnew) {
         ASSERT_TRUE(theme->changeGeneration(2) && theme->applyNode(each.block));
         EXPECT_EQ(test::readFile(path + ".damaged"), damaged);
         EXPECT_EQ(test::problemsOf(*store.open("T")), std::vector<std::string>());
+
+        store.write(std::string("res/T/") + each.file, "<again");
+        const auto again = store.open("T");
+        ASSERT_EQ(again->tree().findByPath(KeyPath{"unlock"})->setValue("amazing"), 0);
+        ASSERT_TRUE(again->changeGeneration(2) && again->applyNode(each.block));
+        EXPECT_EQ(test::readFile(path + ".damaged"), damaged) << "the first one stays";
+        EXPECT_EQ(test::readFile(path + ".damaged-2"), "<again");
     }
 }
 
@@ -168,7 +175,7 @@ TEST(Check, VersionOfAnotherGenerationStandsInTheWay) {
     const TemporaryStore store;
     const auto theme = store.create("T");
     ASSERT_EQ(theme->setValue({}, "version", "8.0.7"), 0);
-    EXPECT_EQ(test::problemsOf(*theme), std::vector<std::string>{"version (-19)"});
+    EXPECT_EQ(test::problemsOf(*theme), std::vector<std::string>{"version (-25)"});
     ASSERT_EQ(theme->setValue({}, "version", "9.1.200"), 0);
     EXPECT_EQ(test::problemsOf(*theme), std::vector<std::string>());
 }

@@ -255,6 +255,20 @@ class KillTest(StoreTest):
             self.assertEqual(self.must(root, "list"), "T\n")
             self.must(root, "check", "T")
 
+    def test_killed_delete_leaves_a_whole_theme_or_none(self):
+        root = self.path("root")
+        self.must(root, "new", "T", "--generation", "9")
+        self.must(root, "export", "T", self.path("T.zdt"))
+        run_time = self.seconds_of(root, "delete", "T")
+        for turn in range(self.ROUNDS):
+            self.must(root, "import", "--replace", self.path("T.zdt"))
+            self.run_and_kill(root, "delete", "T", after=run_time * turn / self.ROUNDS)
+            if self.must(root, "list"):
+                self.must(root, "check", "T")
+        self.must(root, "new", "U", "--generation", "9")
+        self.assertFalse([name for name in os.listdir(os.path.join(root, "tmp")) if name.endswith(".part")],
+                         "what killed runs left is swept away")
+
     def test_killed_new_leaves_a_whole_theme_or_none(self):
         root = self.path("root")
         run_time = self.seconds_of(root, "new", "First", "--generation", "5", "--small")
