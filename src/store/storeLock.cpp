@@ -1,5 +1,6 @@
 #include "store/storeLock.h"
 
+#include "store/themeLayout.h"
 #include "support/files.h"
 
 #include <fcntl.h>
@@ -25,6 +26,16 @@ StoreLock::StoreLock(const std::string& folder) {
 StoreLock::~StoreLock() {
     if (_descriptor >= 0)
         ::close(_descriptor);
+}
+
+WorkLock::WorkLock(const std::string& root)
+    : StoreLock(workFolder(root)) {
+    if (!isHeld())
+        return;
+    for (const std::string& name : listDirectories(workFolder(root))) {
+        if (name.ends_with(".part"))
+            static_cast<void>(removeTree(workFolder(root) + name));
+    }
 }
 
 } // namespace zdt

@@ -22,4 +22,11 @@ private:
     int _descriptor = -1;
 };
 
+/// The lock of a store root's work folder. Whoever holds it works there alone, so that the staging folders which killed
+/// runs left are removed at once.
+class WorkLock : public StoreLock {
+public:
+    explicit WorkLock(const std::string& root);
+};
+
 } // namespace zdt

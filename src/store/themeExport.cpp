@@ -195,10 +195,9 @@ bool ThemeResource::exportTo(const std::string& packagePath, const Progress& pro
         return false;
     if (isStorePath(_rootDirectory, packagePath))
         return false;
-    const StoreLock lock(workFolder(_rootDirectory));
+    const WorkLock lock(_rootDirectory);
     if (!lock.isHeld())
         return false;
-    sweepStaging(_rootDirectory);
     const std::string scratch = scratchFolder(_rootDirectory, _name);
     if (!RemoveFolder(scratch) || !saveTo(scratch, partOf(progress, 0, savedShare)))
         return false;
@@ -215,7 +214,7 @@ bool ThemeResource::exportTo(const std::string& packagePath, const Progress& pro
 
     const std::string staging = stagingFolder(_rootDirectory, _name);
     const std::string finished = staging + "package";
-    const bool written = RemoveFolder(staging) && CreateFolderPath(staging) &&
+    const bool written = CreateFolderPath(staging) &&
                          ZipFolderOnAllCores(scratch, finished, staging, partOf(progress, foldedShare, 1)) &&
                          placePackage(finished, packagePath);
     static_cast<void>(RemoveFolder(staging));

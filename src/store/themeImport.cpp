@@ -108,8 +108,8 @@ ImportFailure importPackage(const std::string& package, const std::string& name,
         return failure;
     if (!flushFileSystem(fresh) || !takePlace(fresh, root, name))
         return ImportFailure::incomplete;
-    static_cast<void>(
-        flushToDisk(themesFolder(root))); // The theme is in its place, whether that can be flushed or not.
+    // The theme is in its place, whether that can be flushed or not.
+    static_cast<void>(flushToDisk(themesFolder(root)));
     return ImportFailure::none;
 }
 
@@ -127,9 +127,7 @@ bool ThemeResource::importTheme(const std::string& packagePath, std::string& out
     } else if (!isThemeName(outName)) {
         result = ImportFailure::badName;
     } else {
-        const StoreLock lock(workFolder(rootDirectory));
-        if (lock.isHeld())
-            sweepStaging(rootDirectory);
+        const WorkLock lock(rootDirectory);
         result = lock.isHeld() ? importPackage(path, outName, rootDirectory, progress) : ImportFailure::incomplete;
         static_cast<void>(RemoveFolder(stagingFolder(rootDirectory, outName)));
     }

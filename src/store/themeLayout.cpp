@@ -50,13 +50,6 @@ std::string stagingFolder(const std::string& root, const std::string& name) {
     return workFolder(root) + name + ".part/";
 }
 
-void sweepStaging(const std::string& root) {
-    for (const std::string& name : listDirectories(workFolder(root))) {
-        if (name.ends_with(".part"))
-            static_cast<void>(removeTree(workFolder(root) + name));
-    }
-}
-
 bool isStorePath(const std::string& root, const std::string& path) {
     return isInside(path, themesFolder(root)) || isInside(path, settingsFolder(root)) ||
            isInside(path, workFolder(root));

@@ -26,9 +26,6 @@ namespace zdt {
 /// `root/tmp/name.part/`, where a theme is made before it takes its place.
 [[nodiscard]] std::string stagingFolder(const std::string& root, const std::string& name);
 
-/// Removes what killed runs left of staging folders. The work folder must be locked.
-void sweepStaging(const std::string& root);
-
 /// Whether a path lies among the themes, their settings or the work of the store, where a package would pass for one of
 /// their files or be swept away.
 [[nodiscard]] bool isStorePath(const std::string& root, const std::string& path);

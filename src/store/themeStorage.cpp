@@ -35,9 +35,9 @@ bool removeTheme(const std::string& root, const std::string& name) {
     const std::string place = parentPath(themeFolder(root, name));
     if (!isTaken(place))
         return true;
-    const StoreLock lock(workFolder(root));
+    const WorkLock lock(root);
     const std::string aside = stagingFolder(root, name);
-    if (!lock.isHeld() || !removeTree(aside) || !makePath(aside))
+    if (!lock.isHeld() || !makePath(aside))
         return removeTree(place);
     if (moveIntoPlace(place, aside + name, Flush::no))
         return removeTree(aside);
@@ -59,12 +59,9 @@ bool ThemeResource::copyTemplate(const std::string& root, const std::string& nam
     const std::string source = locateTemplate(root, versionIndex);
     const std::string staging = stagingFolder(root, name);
     const std::string target = themeFolder(root, name);
-    const StoreLock lock(workFolder(root));
-    if (lock.isHeld())
-        sweepStaging(root);
-    const bool placed = isFolder(source) && lock.isHeld() && removeTree(staging) && makePath(staging) &&
-                        copyTemplateTree(source, staging) && makePath(themesFolder(root)) &&
-                        moveIntoPlace(staging, parentPath(target), Flush::no);
+    const WorkLock lock(root);
+    const bool placed = isFolder(source) && lock.isHeld() && makePath(staging) && copyTemplateTree(source, staging) &&
+                        makePath(themesFolder(root)) && moveIntoPlace(staging, parentPath(target), Flush::no);
     return placed || (static_cast<void>(removeTree(staging)), false);
 }
 
