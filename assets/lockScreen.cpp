@@ -1,10 +1,11 @@
 #include "assets/lockScreen.h"
 
 #include "assets/lockPictures.h"
+#include "lockscreen/geometry.h"
+#include "lockscreen/layoutDefaults.h"
 #include "lockscreen/layoutDocument.h"
 
 #include <array>
-#include <charconv>
 #include <string_view>
 
 namespace zdt::assets {
@@ -12,8 +13,6 @@ namespace zdt::assets {
 namespace {
 
 using Attributes = AmazingChild::Attributes;
-
-constexpr std::string_view screenHeightVariable = "system.screen_height";
 
 /// A place counted upwards from the screen's lower edge.
 std::string fromBottom(int pixels) {
@@ -46,60 +45,8 @@ void addClock(LayoutElements& elements, int x, int y, const Cell& digit, const C
     addNext(digit, source("min2"));
 }
 
-struct TextRow {
-    std::string_view src;
-    std::string_view x;
-    std::string y;
-    std::string_view w;
-    std::string_view h;
-    std::string_view align;
-    std::string_view size;
-    std::string_view colour;
-    std::string_view visible = {};
-    std::string_view ellipsize = {};
-};
-
-void addText(LayoutElements& elements, const TextRow& row) {
-    // An attribute without a value isn't written.
-    add(elements, "text",
-        {{"src", std::string(row.src)},
-         {"x", std::string(row.x)},
-         {"y", row.y},
-         {"w", std::string(row.w)},
-         {"h", std::string(row.h)},
-         {"align", std::string(row.align)},
-         {"size", std::string(row.size)},
-         {"color", std::string(row.colour)},
-         {"visible", std::string(row.visible)},
-         {"ellipsize", std::string(row.ellipsize)}});
-}
-
-TextRow ownerRow() {
-    return {"system.ownerinfo.text",
-            "0",
-            fromBottom(170),
-            "1080",
-            "70",
-            "center",
-            "14",
-            "#3e3e3e",
-            "!system.charge.show and system.ownerinfo.show",
-            "marquee"};
-}
-
-void addDefaultTexts(LayoutElements& elements) {
-    const std::array<TextRow, 6> rows{{
-        {"system.date", "45", "400", "1080", "80", "left", "14", "#FF3e3e3e"},
-        {"system.time.ampm", "450", "210", "200", "100", "left", "20", "#FF3e3e3e", "system.time.showampm"},
-        {"system.message.text", "45", fromBottom(1300), "1080", "80", "left", "14", "#3e3e3e",
-         "system.message.count gt 0"},
-        {"system.call.text", "45", fromBottom(1240), "1080", "80", "left", "14", "#3e3e3e", "system.call.count gt 0"},
-        {"system.charge.text", "45", fromBottom(1445), "1080", "70", "left", "14", "#3e3e3e",
-         "system.charge.show and system.music_visible eq 0"},
-        ownerRow(),
-    }};
-    for (const TextRow& row : rows)
-        addText(elements, row);
+void addText(LayoutElements& elements, const layoutDefaults::Text& row) {
+    elements.push_back(std::make_unique<AmazingChild>(layoutDefaults::makeText(row)));
 }
 
 struct Place {
@@ -132,7 +79,8 @@ LayoutElements designedLock() {
     LayoutElements elements;
     addImage(elements, "490", fromBottom(570) + "+system.unlock_up_moveY", lockArrow, "unlock_arrow.png");
     addClock(elements, 10, 208, lockDigit, lockColon, "");
-    addDefaultTexts(elements);
+    for (const layoutDefaults::Text& row : layoutDefaults::texts)
+        addText(elements, row);
     addUnlocker(elements, "unlock_up", {"0", fromBottom(600), screenWidth, 600},
                 {"0", fromBottom(1200), screenWidth, 600});
     return elements;
@@ -149,27 +97,10 @@ LayoutElements slideLock() {
     addImage(elements, std::to_string(left) + "+system.slide_right_moveX", y, slideKnob, "slide_knob.png");
     addClock(elements, clockLeft, 240, slideDigit, slideColon, "slide_");
     addText(elements, {"system.date", "0", "540", "1080", "80", "center", "14", "#FF3e3e3e"});
-    addText(elements, ownerRow());
+    addText(elements, layoutDefaults::texts.back());
     addUnlocker(elements, "slide_right", {std::to_string(left), y, slideKnob.width, slideKnob.height},
                 {std::to_string(end), y, slideKnob.width, slideKnob.height});
     return elements;
-}
-
-/// A place that hangs on the lower edge as a number, with what follows it, such as a move of the hand, behind it.
-std::string fixedPlace(const std::string& place, int height) {
-    if (!place.starts_with(screenHeightVariable))
-        return place;
-    const std::string rest = place.substr(screenHeightVariable.size());
-    int offset = 0;
-    const char* end = std::from_chars(rest.data(), rest.data() + rest.size(), offset).ptr;
-    return std::to_string(height + offset) + rest.substr(static_cast<std::size_t>(end - rest.data()));
-}
-
-void fixPlaces(AmazingChild& element, int height) {
-    if (const std::string y = element.attribute("y"); !y.empty())
-        element.setAttribute("y", fixedPlace(y, height));
-    for (const auto& child : element.children())
-        fixPlaces(*child, height);
 }
 
 bool writeDesign(const std::string& path, const LayoutElements& elements, const Generation& generation) {
@@ -177,8 +108,7 @@ bool writeDesign(const std::string& path, const LayoutElements& elements, const 
         return writeLayout(path + ".xml", elements);
     if (!writeLayout(path + "_full.xml", elements))
         return false;
-    for (const auto& element : elements)
-        fixPlaces(*element, generation.screenHeight);
+    const FixedHeightForm fixed(elements, screenHeight);
     return writeLayout(path + ".xml", elements);
 }
 

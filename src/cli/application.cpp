@@ -1,12 +1,13 @@
 #include "cli/application.h"
 
 #include "cli/commands.h"
-#include "support/text.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <ostream>
 
 namespace zdt {
@@ -25,6 +26,9 @@ struct Arguments {
     std::string generation;
     std::string icon;
     std::string onOff;
+    std::optional<std::string> type;
+    std::string text;
+    std::string height;
     bool small = false;
     bool english = false;
     bool replace = false;
@@ -35,6 +39,7 @@ using Command = std::function<int(const Context&, const Arguments&)>;
 const std::vector<std::string> generationWords{"5", "8", "9"};
 const std::vector<std::string> iconWords{"calendar", "clock", "weather"};
 const std::vector<std::string> switchWords{"on", "off"};
+const std::vector<std::string> heightWords{"1920", "2160"};
 
 /// The place of a word that was checked to be one of the words.
 unsigned placeOf(const std::string& word, const std::vector<std::string>& words) {
@@ -75,12 +80,15 @@ public:
         addThemeCommands();
         addValueCommands();
         addPackageCommands();
+        addLockCommands();
     }
 
     [[nodiscard]] CLI::App& app() { return _app; }
     [[nodiscard]] int run() {
-        for (std::string* argument : {&_arguments.name, &_arguments.key, &_arguments.file})
+        for (std::string* argument : {&_arguments.name, &_arguments.key, &_arguments.file, &_arguments.text})
             unshield(*argument);
+        if (_arguments.type)
+            unshield(*_arguments.type);
         std::for_each(_arguments.pairs.begin(), _arguments.pairs.end(), unshield);
         return _chosen(_context, _arguments);
     }
@@ -108,6 +116,8 @@ private:
     void addThemeCommands();
     void addValueCommands();
     void addPackageCommands();
+    void addLockCommands();
+    CLI::App* addTextCommand(const std::string& name, const std::string& description, const Command& command);
 
     CLI::App _app;
     Context& _context;
@@ -189,21 +199,40 @@ void Grammar::addPackageCommands() {
     importing->add_flag("--replace", _arguments.replace, "Takes the place of a theme of that name");
 }
 
-/// A message of one line that a terminal can show, whatever the arguments hold.
-std::string oneLine(std::string text) {
-    constexpr std::size_t longest = 2000;
-    std::erase(text, shield);
-    if (text.size() > longest)
-        text.resize(longest);
-    const bool isText = isUtf8(text);
-    for (char& c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (c == '\n')
-            c = ' ';
-        else if (byte < 0x20 || byte == 0x7f || (byte >= 0x80 && !isText))
-            c = '?';
-    }
-    return text;
+CLI::App* Grammar::addTextCommand(const std::string& name, const std::string& description, const Command& command) {
+    CLI::App* subcommand = add(name, description, command);
+    subcommand->add_option("TEXT", _arguments.text, "Behind \"--\" if it begins with \"-\"")->required();
+    return subcommand;
+}
+
+void Grammar::addLockCommands() {
+    CLI::App* lock = addNamed("lock", "Shows the lock screen, or changes its kind",
+                              [](const Context& context, const Arguments& arguments) {
+                                  return arguments.type ? setLockCommand(context, arguments.name, *arguments.type)
+                                                        : lockCommand(context, arguments.name);
+                              });
+    lock->add_option("TYPE", _arguments.type, "slide, magazine, amazing, video, custom or zooking");
+
+    addTextCommand("eval", "The value of an expression", [](const Context& context, const Arguments& arguments) {
+        return evalCommand(context, arguments.text);
+    });
+    CLI::App* fold = addTextCommand("fold", "The canonical form of a position in a lock screen layout",
+                                    [](const Context& context, const Arguments& arguments) {
+                                        const auto height = placeOf(arguments.height, heightWords) == 0
+                                                                ? std::uint32_t{1920}
+                                                                : std::uint32_t{2160};
+                                        return foldCommand(context, arguments.text, height);
+                                    });
+    addChoice(fold, "--height", _arguments.height, heightWords);
+    addTextCommand(
+        "expand", "The picture names that a src of a lock screen layout stands for",
+        [](const Context& context, const Arguments& arguments) { return expandCommand(context, arguments.text); });
+}
+
+/// A message as the author knows the arguments.
+std::string shown(std::string message) {
+    std::erase(message, shield);
+    return oneLine(message);
 }
 
 } // namespace
@@ -219,7 +248,7 @@ int runZdt(int argc, const char* const* argv, std::ostream& out, std::ostream& e
     } catch (const CLI::ParseError& error) {
         const std::vector<std::string> unknown = grammar.app().remaining();
         const bool noCommand = grammar.app().get_subcommands().empty() && !unknown.empty();
-        err << "zdt: usage: " << oneLine(noCommand ? "there is no command " + unknown.front() : error.what()) << '\n';
+        err << "zdt: usage: " << shown(noCommand ? "there is no command " + unknown.front() : error.what()) << '\n';
         return usageStatus;
     }
     try {
@@ -228,7 +257,7 @@ int runZdt(int argc, const char* const* argv, std::ostream& out, std::ostream& e
             throw Refusal("standard output", "it couldn't be written");
         return status;
     } catch (const Refusal& refusal) {
-        err << (context.midLine ? "\n" : "") << "zdt: " << oneLine(refusal.what()) << '\n';
+        err << (context.midLine ? "\n" : "") << "zdt: " << shown(refusal.what()) << '\n';
         return refusedStatus;
     }
 }

@@ -30,6 +30,13 @@ int getCommand(const Context& context, const std::string& name, const std::strin
 int setCommand(const Context& context, const std::string& name, const std::vector<std::string>& pairs);
 int resetCommand(const Context& context, const std::string& name, const std::string& key);
 
+int lockCommand(const Context& context, const std::string& name);
+int setLockCommand(const Context& context, const std::string& name, const std::string& type);
+int evalCommand(const Context& context, const std::string& text);
+/// @param height of the screen, 1920 or 2160
+int foldCommand(const Context& context, const std::string& text, std::uint32_t height);
+int expandCommand(const Context& context, const std::string& src);
+
 int checkCommand(const Context& context, const std::string& name);
 int exportCommand(const Context& context, const std::string& name, const std::string& file);
 int importCommand(const Context& context, const std::string& file, bool replace);

@@ -1,6 +1,7 @@
 #include "cli/output.h"
 
 #include "cli/words.h"
+#include "support/text.h"
 
 #include <unistd.h>
 
@@ -23,6 +24,21 @@ std::string escapeLineBreaks(const std::string& line) {
 }
 
 } // namespace
+
+std::string oneLine(std::string text) {
+    constexpr std::size_t longest = 2000;
+    if (text.size() > longest)
+        text.resize(longest);
+    const bool isText = isUtf8(text);
+    for (char& c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (c == '\n')
+            c = ' ';
+        else if (byte < 0x20 || byte == 0x7f || (byte >= 0x80 && !isText))
+            c = '?';
+    }
+    return text;
+}
 
 Refusal::Refusal(const std::string& what, int code)
     : std::runtime_error(what + ": " + wordsFor(code) + " (" + std::to_string(code) + ")") {}

@@ -39,6 +39,10 @@ struct Context {
     [[nodiscard]] Progress progress(const std::string& label) const;
 };
 
+/// A text from outside as part of one line that a terminal can show: cut where it is very long, with "?" for control
+/// characters and for bytes that are no UTF-8.
+[[nodiscard]] std::string oneLine(std::string text);
+
 /// Prints problems, each with its words, and tells whether there are any.
 bool printProblems(const Context& context, const std::vector<Problem>& problems);
 

@@ -29,6 +29,11 @@ AmazingChild::AmazingChild(const AmazingChild& other)
         _children.push_back(std::make_unique<AmazingChild>(*child));
 }
 
+AmazingChild::AmazingChild(AmazingChild&& other) noexcept
+    : _name(std::move(other._name))
+    , _attributes(std::move(other._attributes))
+    , _children(std::move(other._children)) {}
+
 AmazingChild::~AmazingChild() = default;
 
 std::string AmazingChild::attribute(const std::string& name) const {

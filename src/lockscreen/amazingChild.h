@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tinyxml2 {
@@ -26,7 +27,10 @@ public:
     explicit AmazingChild(const tinyxml2::XMLElement* element);
     /// Copies the children too, as plain elements.
     AmazingChild(const AmazingChild& other);
+    /// Takes the other's name, attributes and children: how an element becomes one of another class.
+    AmazingChild(AmazingChild&& other) noexcept;
     AmazingChild& operator=(const AmazingChild&) = delete;
+    AmazingChild& operator=(AmazingChild&&) = delete;
 
     virtual ~AmazingChild();
     /// Copies the pictures that the element and its children name from one directory, ending in "/", to another. Stops
@@ -43,9 +47,12 @@ public:
     /// Empty for an absent attribute.
     [[nodiscard]] std::string attribute(const std::string& name) const;
     void setAttribute(const std::string& name, std::string value) { _attributes[name] = std::move(value); }
+    void removeAttribute(const std::string& name) { _attributes.erase(name); }
 
     [[nodiscard]] const Children& children() const { return _children; }
     AmazingChild& addChild(std::unique_ptr<AmazingChild> child);
+    [[nodiscard]] Children takeChildren() { return std::exchange(_children, {}); }
+    void setChildren(Children children) { _children = std::move(children); }
 
     [[nodiscard]] std::string src() const { return attribute("src"); }
     /// Stores the file name of a path in `src`. An element without a `src` stays as it is, and so does any with a path

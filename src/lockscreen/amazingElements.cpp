@@ -10,8 +10,6 @@ namespace zdt {
 
 namespace {
 
-constexpr const char* imageTag = "image";
-
 void dropMissingFromEnd(std::vector<std::string>& names, const std::string& directory) {
     while (!names.empty() && !pathExists(directory + names.back()))
         names.pop_back();
@@ -19,18 +17,9 @@ void dropMissingFromEnd(std::vector<std::string>& names, const std::string& dire
 
 } // namespace
 
-LockWallPaper::LockWallPaper(const tinyxml2::XMLElement* element)
-    : TimeAboutImage(element) {
-    listFiles();
-}
-
-LockWallPaper::LockWallPaper(Attributes attributes)
-    : TimeAboutImage(imageTag, std::move(attributes)) {
-    listFiles();
-}
-
-void LockWallPaper::listFiles() {
-    _isRefused = !expandSource(src());
+LockWallPaper::LockWallPaper(AmazingChild&& element)
+    : TimeAboutImage(std::move(element))
+    , _isRefused(!expandSource(src())) {
     if (_isRefused)
         return;
     const std::vector<std::string> tokens = splitSource(src());
@@ -40,6 +29,8 @@ void LockWallPaper::listFiles() {
     std::replace(tokens2160.begin(), tokens2160.end(), std::string(heightToken), "'" + std::string(tallPrefix) + "'");
     _files1920 = expandTokens(tokens1920).value_or(std::vector<std::string>());
     _files2160 = expandTokens(tokens2160).value_or(std::vector<std::string>());
+    if (!_files1920.empty() && !_files2160.empty())
+        _firstPair = {_files1920.front(), _files2160.front()};
 }
 
 void LockWallPaper::lookUpFiles(const std::string& directory) {
@@ -55,17 +46,22 @@ void LockWallPaper::lookUpFiles(const std::string& directory) {
 std::optional<std::vector<std::string>> LockWallPaper::resources() const {
     if (_isRefused)
         return std::nullopt;
+    if (_files1920.empty())
+        return _firstPair;
     std::vector<std::string> names = _files1920;
-    for (const std::string& name : _files2160) {
-        // Without the height in its `src`, both sets are the same files.
-        if (std::find(_files1920.begin(), _files1920.end(), name) == _files1920.end())
-            names.push_back(name);
-    }
+    if (_files2160 != _files1920) // as they are without the height in the `src`
+        names.insert(names.end(), _files2160.begin(), _files2160.end());
     return names;
 }
 
-UnlockerData::UnlockerData(const tinyxml2::XMLElement* element)
-    : AmazingChild(element) {
+UnlockerData::UnlockerData(AmazingChild&& element)
+    : AmazingChild(std::move(element)) {
+    collectPoints();
+}
+
+void UnlockerData::collectPoints() {
+    _startPoints.clear();
+    _endPoints.clear();
     for (const auto& child : children()) {
         if (child->name() == "StartPoint")
             _startPoints.push_back(child.get());
@@ -95,7 +91,7 @@ bool changesWithTime(const std::string& src) {
 }
 
 bool isWallpaper(const AmazingChild& element) {
-    return element.name() == imageTag && isFullScreen(element) && changesWithTime(element.src());
+    return element.name() == "image" && isFullScreen(element) && changesWithTime(element.src());
 }
 
 } // namespace zdt

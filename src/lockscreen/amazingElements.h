@@ -14,13 +14,16 @@ namespace zdt {
 class TimeAboutImage : public AmazingChild {
 public:
     using AmazingChild::AmazingChild;
+    explicit TimeAboutImage(AmazingChild&& element)
+        : AmazingChild(std::move(element)) {}
 };
 
 /// The picture that fills the screen and changes with the time. It has two sets of files, one for each screen height.
 class LockWallPaper : public TimeAboutImage {
 public:
-    explicit LockWallPaper(const tinyxml2::XMLElement* element);
-    explicit LockWallPaper(Attributes attributes);
+    explicit LockWallPaper(AmazingChild&& element);
+    explicit LockWallPaper(const tinyxml2::XMLElement* element)
+        : LockWallPaper(AmazingChild(element)) {}
 
     /// The names for a height of 1920, and those for 2160. They are pairs once the files were looked up.
     [[nodiscard]] const std::vector<std::string>& files1920() const { return _files1920; }
@@ -29,14 +32,14 @@ public:
     /// list down to the length of the shorter. A missing directory changes nothing.
     void lookUpFiles(const std::string& directory);
 
-    /// Both sets; nothing if the `src` is refused.
+    /// Both sets; nothing if the `src` is refused. Without a whole pair they are the
+    /// two names that a first pair would have.
     [[nodiscard]] std::optional<std::vector<std::string>> resources() const override;
 
 private:
-    void listFiles();
-
     std::vector<std::string> _files1920;
     std::vector<std::string> _files2160;
+    std::vector<std::string> _firstPair;
     bool _isRefused = false;
 };
 
@@ -44,17 +47,23 @@ private:
 class Decoration : public AmazingChild {
 public:
     using AmazingChild::AmazingChild;
+    explicit Decoration(AmazingChild&& element)
+        : AmazingChild(std::move(element)) {}
 };
 
 /// What the hand moves to unlock: an element with points where it starts and ends.
 class UnlockerData : public AmazingChild {
 public:
-    explicit UnlockerData(const tinyxml2::XMLElement* element);
+    explicit UnlockerData(AmazingChild&& element);
+    explicit UnlockerData(const tinyxml2::XMLElement* element)
+        : UnlockerData(AmazingChild(element)) {}
     UnlockerData(const UnlockerData&) = delete; // The lists would point into the other element.
 
     /// Children of this element, not owned by the lists.
     [[nodiscard]] const std::vector<AmazingChild*>& startPoints() const { return _startPoints; }
     [[nodiscard]] const std::vector<AmazingChild*>& endPoints() const { return _endPoints; }
+    /// To be called when the children changed.
+    void collectPoints();
     /// 1 if the first end lies where the one start does, 2 if it lies elsewhere; 0 without an end, or if the starts are
     /// not exactly one.
     [[nodiscard]] int unlockerKind() const;

@@ -108,6 +108,16 @@ std::vector<std::string> splitSource(std::string_view src) {
     return tokens;
 }
 
+std::size_t countNames(std::string_view src) {
+    std::size_t count = 1;
+    for (const std::string& token : splitSource(src.substr(0, maxSourceBytes))) {
+        count *= tokenValues(token, rangeOf("hour2")).size();
+        if (count > maxPictureNames)
+            return maxPictureNames + 1;
+    }
+    return count;
+}
+
 std::optional<std::vector<std::string>> expandTokens(const std::vector<std::string>& tokens) {
     std::optional<Names> names = multiply(tokens, rangeOf("hour2"));
     const bool hasFirstHourDigit = std::find(tokens.begin(), tokens.end(), firstHourDigit) != tokens.end();

@@ -25,6 +25,10 @@ inline constexpr std::string_view tallPrefix = "2160_";
 /// The parts between the "+" of a `src`, also of one inside quotes: the format has no escape.
 [[nodiscard]] std::vector<std::string> splitSource(std::string_view src);
 
+/// How many names a `src` stands for, told without making them: no fewer than `expandSource` gives, and at most one
+/// more than it allows.
+[[nodiscard]] std::size_t countNames(std::string_view src);
+
 /// The names that the tokens stand for, in counting order with the last digit running fastest. The hours 24 to 29 are
 /// left out. Nothing if they are refused.
 [[nodiscard]] std::optional<std::vector<std::string>> expandTokens(const std::vector<std::string>& tokens);

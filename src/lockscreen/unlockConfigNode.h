@@ -14,6 +14,7 @@ inline constexpr const char* outsideEnginePackage = "com.ibimuyu.lockscreen";
 /// The kinds of lock screen. Any other text is a kind too, of which the style alone is written.
 namespace unlockType {
 inline constexpr const char* slide = "slide";
+inline constexpr const char* magazine = "magazine";
 inline constexpr const char* amazing = "amazing"; ///< Freely designed.
 inline constexpr const char* video = "video";
 inline constexpr const char* zooking = "zooking"; ///< Of an outside engine.

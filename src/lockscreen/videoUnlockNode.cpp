@@ -27,7 +27,7 @@ struct VideoRole {
 VideoRole roleOf(const ResNode& owner) {
     if (owner.name() == "wallpaper")
         return {"wallpaper/", "wallpaper_video", "wallpaper.mp4"};
-    return {owner.parent() ? dynamicLockDirectory(*owner.parent()) : std::string(), "unlockVideo", "unlock.mp4"};
+    return {owner.parent() ? dynamicLockDirectory(*owner.parent()) : std::string(), "unlockVideo", defaultLockVideo};
 }
 
 KeyValues readProperties(const std::string& directory) {

@@ -10,6 +10,9 @@ namespace zdt {
 /// The largest video of a lock screen or wallpaper in bytes.
 inline constexpr std::uint64_t maxVideoBytes = 0xf00000;
 
+/// The name of a lock screen's video where `ext.properties` gives none.
+inline constexpr const char* defaultLockVideo = "unlock.mp4";
+
 /// `ext.properties`, lines `key=value` for the engine that plays a video: a text child for each key. Like the video
 /// itself it serves the lock screen below a parent named "video" and the wallpaper below one named "wallpaper".
 class VideoUnlockConfig : public ResNode {

@@ -158,8 +158,11 @@ void ThemeResource::addProblemsOf(ResNode& each, std::vector<Problem>& problems)
     if (code == returnCode::success)
         return;
     if (&each == _amazingNode) {
-        for (const std::string& missing : _amazingNode->missingFiles())
-            problems.push_back({keyTextOf(each), missing, code});
+        // A missing video is listed where it belongs.
+        if (node({"unlock"})->value() == unlockType::video)
+            return;
+        for (const auto& [path, missingCode] : _amazingNode->missingFiles())
+            problems.push_back({keyTextOf(each), path, missingCode});
         return;
     }
     problems.push_back({keyTextOf(each), file ? each.path() + each.name() : std::string(), code});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "lockscreen/amazingUnlockNode.h"
 #include "model/keyPath.h"
 #include "model/returnCode.h"
 #include "model/typeMask.h"
@@ -10,6 +11,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -19,7 +21,6 @@
 
 namespace zdt {
 
-class AmazingUnlockNode;
 class FileResNode;
 class ResNode;
 class ThemeNode;
@@ -99,7 +100,7 @@ public:
     // What the theme is.
 
     [[nodiscard]] ThemeNode& tree() const { return *_resTree; }
-    [[nodiscard]] AmazingUnlockNode& amazingNode() const { return *_amazingNode; }
+    [[nodiscard]] const AmazingUnlockNode& amazingNode() const { return *_amazingNode; }
     [[nodiscard]] const std::string& name() const { return _name; }
     void setName(std::string name) { _name = std::move(name); }
     /// The generation's index: 0, 1 or 2, and 3 for a theme of none.
@@ -190,6 +191,67 @@ public:
     /// -9 below 1920.
     [[nodiscard]] int setScreenHeight(std::uint32_t height);
 
+    // The lock screen. Its kind and its video are written at once. The designed one is read from `amazingNode`; of what
+    // the operations below change, pictures are copied into the theme at once, and the layout is written when the block
+    // "unlock"/"amazing" is applied. They give 0 or a code of `designCode` or `returnCode`, -1 where the theme has no
+    // design that can be read. A picture that a new part needs is taken from the template where the theme has none; the
+    // check before an export lists those still missing.
+
+    /// The kind of lock screen; empty if the theme doesn't say it.
+    [[nodiscard]] std::string lockScreenType() const;
+    /// Changes the kind of lock screen, and starts a design for "amazing" where the theme has none. -18 for an empty
+    /// kind, -9 for one that XML can't hold, -3 if it can't be written.
+    [[nodiscard]] int setLockScreenType(const std::string& type);
+    /// Stores the video of the lock screen, and for a theme without one that of the wallpaper.
+    [[nodiscard]] int setLockVideo(const std::string& file);
+    /// Starts a new design with the texts and clock of the phone's own, in place of what was there.
+    void startLockDesign();
+
+    [[nodiscard]] int setLockElementRect(const ElementPath& path, const DesignRect& rect);
+    [[nodiscard]] int setLockElementAttributes(const ElementPath& path,
+                                               const std::map<std::string, std::string>& attributes);
+    [[nodiscard]] int moveLockElement(std::size_t from, std::size_t to);
+    [[nodiscard]] int removeLockElement(std::size_t index);
+
+    [[nodiscard]] int addDecoration(const std::string& file, const DesignRect& rect,
+                                    const std::map<std::string, std::string>& attributes, std::size_t& index);
+    [[nodiscard]] int setDecorationPicture(std::size_t index, const std::string& file);
+    [[nodiscard]] int setDecorationChildren(std::size_t index, const std::vector<AmazingChild>& children);
+    [[nodiscard]] int removeDecoration(std::size_t index);
+
+    /// -9 once the interval can show no more.
+    [[nodiscard]] int addLockWallpaper(const WallpaperPictures& pictures);
+    [[nodiscard]] int replaceLockWallpaper(std::size_t row, const WallpaperPictures& pictures);
+    /// -9 for the last.
+    [[nodiscard]] int removeLockWallpaper(std::size_t row);
+    [[nodiscard]] int setLockWallpaperInterval(WallpaperInterval interval);
+
+    [[nodiscard]] int addLockClock();
+    [[nodiscard]] int removeLockClock();
+    [[nodiscard]] int removeLockClockPicture();
+    /// The picture of a digit's value, or the one between the digits.
+    [[nodiscard]] int setClockDigitPicture(ClockDigit digit, std::size_t value, const std::string& file);
+    [[nodiscard]] int setClockPicture(const std::string& file);
+
+    /// One that is new shows in the upper left corner at its own size.
+    [[nodiscard]] int setChargePicture(std::size_t index, const std::string& file);
+    [[nodiscard]] int removeChargePicture(std::size_t index);
+
+    [[nodiscard]] int addMusicControl();
+    [[nodiscard]] int removeMusicControl();
+    /// @param name of the picture in the design
+    [[nodiscard]] int replaceLockPicture(const std::string& name, const std::string& file);
+
+    [[nodiscard]] int addLockText(const std::string& src);
+    [[nodiscard]] int removeLockText(const std::string& src);
+
+    [[nodiscard]] int addUnlocker(UnlockerKind kind);
+    [[nodiscard]] int removeUnlocker(UnlockerKind kind);
+    [[nodiscard]] int setUnlockerStart(UnlockerKind kind, const DesignRect& rect);
+    [[nodiscard]] int setUnlockerEnd(UnlockerKind kind, const DesignRect& rect);
+    [[nodiscard]] int setUnlockMode(int mode);
+    [[nodiscard]] int addSmartIcon();
+
     // Checking and writing.
 
     /// Lists the leaves that take part in the theme and aren't fit for an export, in the tree's order. True if all are.
@@ -222,6 +284,15 @@ private:
     void restoreInvalidDefaults();
     /// Whether the text had to be changed.
     bool makeVersionTextAgree();
+
+    /// Copies the pictures that the design lacks from the template, as far as that has them.
+    void takePicturesFromTemplate();
+    [[nodiscard]] bool writeLockScreen();
+    [[nodiscard]] WallpaperInterval lockWallpaperInterval() const;
+    /// -1 for a theme whose design is missing or can't be read.
+    [[nodiscard]] int changeDesign(const std::function<int(LockDesign&)>& change);
+    [[nodiscard]] int importDesignPicture(const std::string& file,
+                                          const std::function<int(LockDesign&, const std::string&)>& use);
 
     /// Sets a file on the child of its name, which is made from `fresh` if there is none and then removed again if the
     /// file is refused.

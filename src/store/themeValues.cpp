@@ -1,4 +1,4 @@
-#include "lockscreen/amazingUnlockNode.h"
+#include "lockscreen/videoUnlockNode.h"
 #include "model/fileResNode.h"
 #include "model/template.h"
 #include "modules/themeNode.h"
@@ -13,6 +13,8 @@ namespace zdt {
 namespace {
 
 constexpr const char* source = "themeResource";
+
+const KeyPath lockVideoPath{"unlock", "video", "image_set"};
 
 template <typename Add>
 void forApplicableChildren(const ResNode* block, Add add) {
@@ -84,6 +86,9 @@ std::string ThemeResource::getValueNth(const KeyPath& keyPath, int n) const {
 }
 
 int ThemeResource::setValue(const KeyPath& keyPath, const std::string& name, const std::string& value) {
+    // Whatever the video's file is called, it is the only one.
+    if (keyPath == lockVideoPath && (name == defaultLockVideo || findLeaf(keyPath, name)))
+        return setLockVideo(value);
     return setLeaf(findLeaf(keyPath, name), value);
 }
 

@@ -58,7 +58,7 @@ TEST_P(LockScreens, OfANewThemeAreTheDesignedOneWithAllItsFiles) {
     auto* node = dynamic_cast<AmazingUnlockNode*>(tree->findByPath(KeyPath{"unlock", "amazing"}));
     ASSERT_TRUE(node);
     EXPECT_TRUE(node->isReadable());
-    EXPECT_EQ(node->missingFiles(), std::vector<std::string>());
+    EXPECT_TRUE(node->missingFiles().empty());
     EXPECT_EQ(node->validate({}), 0);
 }
 
@@ -89,11 +89,10 @@ TEST_P(LockScreens, UnlockByAMoveToAnotherPlace) {
         const auto isUnlocker = [](const auto& element) { return element->name() == "unlocker"; };
         ASSERT_EQ(std::count_if(elements.begin(), elements.end(), isUnlocker), 1) << design;
         const auto found = std::find_if(elements.begin(), elements.end(), isUnlocker);
-        const auto* unlocker = dynamic_cast<const UnlockerData*>(found->get());
-        ASSERT_TRUE(unlocker);
-        EXPECT_EQ(unlocker->unlockerKind(), 2) << design;
-        const std::int32_t start = valueAt(unlocker->startPoints().front()->attribute("y"), 1920);
-        const std::int32_t end = valueAt(unlocker->endPoints().front()->attribute("y"), 1920);
+        const UnlockerData unlocker(std::move(**found));
+        EXPECT_EQ(unlocker.unlockerKind(), 2) << design;
+        const std::int32_t start = valueAt(unlocker.startPoints().front()->attribute("y"), 1920);
+        const std::int32_t end = valueAt(unlocker.endPoints().front()->attribute("y"), 1920);
         EXPECT_EQ(end < start, design.ends_with("layout1")) << "the designed lock alone is pushed upwards";
     }
 }

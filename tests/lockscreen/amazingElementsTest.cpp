@@ -162,13 +162,13 @@ TEST(LockWallPaper, BothHeightsHaveTheirFilesAndKeepThemInPairs) {
 }
 
 TEST(LockWallPaper, WithoutTheHeightBothSetsAreTheSameFiles) {
-    const LockWallPaper wallpaper(AmazingChild::Attributes{{"src", "'bg_'+system.time.hour1+'.jpg'"}});
+    const LockWallPaper wallpaper(AmazingChild("image", {{"src", "'bg_'+system.time.hour1+'.jpg'"}}));
     EXPECT_EQ(wallpaper.name(), "image");
     EXPECT_EQ(wallpaper.files1920(), wallpaper.files2160());
     EXPECT_EQ(wallpaper.resources(), (Names{"bg_0.jpg", "bg_1.jpg", "bg_2.jpg"}));
     const std::string endless = "system.time.min2+system.time.min2+system.time.min2+system.time.min2+system.time.min2";
     for (const std::string& src : {endless, "'" + std::string(5000, 'a') + "'"})
-        EXPECT_EQ(LockWallPaper(AmazingChild::Attributes{{"src", src}}).resources(), std::nullopt);
+        EXPECT_EQ(LockWallPaper(AmazingChild("image", {{"src", src}})).resources(), std::nullopt);
 }
 
 TEST(UnlockerData, KindTellsWhetherTheEndLiesElsewhere) {

@@ -15,6 +15,7 @@ namespace zdt {
 namespace {
 
 using namespace std::string_literals;
+using test::namesIn;
 using test::readFile;
 using test::TemporaryFolder;
 using Names = std::vector<std::string>;
@@ -42,6 +43,13 @@ protected:
     TemporaryFolder folder;
     ResNode root;
 };
+
+Names missingOf(const AmazingUnlockNode& node) {
+    Names lines;
+    for (const auto& [path, code] : node.missingFiles())
+        lines.push_back(std::to_string(code) + " " + path);
+    return lines;
+}
 
 TEST_F(UnlockNodeTest, KindIsReadFromStyleAndPackage) {
     const struct {
@@ -168,11 +176,11 @@ TEST_F(UnlockNodeTest, LayoutThatCannotBeReadIsNeverWrittenOver) {
         write("layout-hdpi/layout1.xml", file);
         auto& design = dynamic_cast<AmazingUnlockNode&>(*open("amazing").findChild("amazing"));
         EXPECT_FALSE(design.isReadable());
-        EXPECT_TRUE(design.elements().empty());
+        EXPECT_TRUE(design.design().elements().empty());
         EXPECT_TRUE(design.save(true));
         EXPECT_TRUE(read("layout-hdpi/layout1.xml") == file);
         EXPECT_EQ(design.validate(""), -2);
-        EXPECT_EQ(design.missingFiles(), Names{"unlock/layout-hdpi/layout1.xml"});
+        EXPECT_EQ(missingOf(design), Names{"-24 unlock/layout-hdpi/layout1.xml"});
     }
 }
 
@@ -185,16 +193,18 @@ TEST_F(UnlockNodeTest, MissingPicturesAreToldOnceAndOnlyForTheDesignedLock) {
                                      "<image src='../outside.png'/><text src='system.date'/></layout>");
     UnlockNode& unlock = open("amazing");
     auto& design = dynamic_cast<AmazingUnlockNode&>(*unlock.findChild("amazing"));
-    EXPECT_EQ(design.missingFiles(), (Names{"unlock/drawable-hdpi/number_1.png", "unlock/drawable-hdpi/frame.png",
-                                            "unlock/drawable-hdpi/../outside.png"}));
+    EXPECT_EQ(missingOf(design), (Names{"-2 unlock/drawable-hdpi/number_1.png", "-2 unlock/drawable-hdpi/frame.png",
+                                        "-2 unlock/drawable-hdpi/../outside.png"}));
     EXPECT_EQ(design.validate(""), -2);
     EXPECT_EQ(design.errors(), std::vector<int>{-2});
-    for (const char* type : {"slide", "video", "custom", "magazine"}) {
-        ASSERT_EQ(unlock.setValue(type), 0);
-        EXPECT_EQ(design.validate(""), 0) << type;
-    }
     root.setPath(folder.path("tmp/a/"));
     EXPECT_FALSE(design.save(false)) << "a theme saved elsewhere takes its pictures along";
+    for (const char* type : {"slide", "custom", "magazine"}) {
+        ASSERT_EQ(unlock.setValue(type), 0);
+        EXPECT_EQ(design.validate(""), 0) << type;
+        EXPECT_TRUE(design.save(false)) << "a design that isn't shown goes along as far as it is there";
+    }
+    EXPECT_EQ(namesIn(folder.path("tmp/a/unlock/drawable-hdpi")), (Names{"number_0.png", "number_2.png"}));
 }
 
 TEST_F(UnlockNodeTest, FullLayoutCountsWhereThereIsOne) {
@@ -202,8 +212,8 @@ TEST_F(UnlockNodeTest, FullLayoutCountsWhereThereIsOne) {
     write("layout-hdpi/layout1.xml", "<layout><text y='680'/></layout>");
     write("layout-hdpi/layout1_full.xml", "<layout><text y='system.screen_height-1240'/></layout>");
     auto& design = dynamic_cast<AmazingUnlockNode&>(*open("amazing").findChild("amazing"));
-    ASSERT_EQ(design.elements().size(), 1U);
-    EXPECT_EQ(design.elements()[0]->attribute("y"), "system.screen_height-1240");
+    ASSERT_EQ(design.design().elements().size(), 1U);
+    EXPECT_EQ(design.design().elements()[0]->attribute("y"), "system.screen_height-1240");
     EXPECT_TRUE(design.save(true));
     EXPECT_TRUE(read("layout-hdpi/layout1_full.xml").find("y=\"system.screen_height-1240\"") != std::string::npos);
     EXPECT_TRUE(read("layout-hdpi/layout1.xml").find("y=\"680\"") != std::string::npos);
@@ -223,8 +233,8 @@ TEST_F(UnlockNodeTest, WallpaperAndHeightFollowLayoutAndGeneration) {
         auto& design = dynamic_cast<AmazingUnlockNode&>(*open("amazing").findChild("amazing"));
         EXPECT_EQ(design.screenHeight(), height);
         EXPECT_TRUE(design.hasWallpaper());
-        EXPECT_TRUE(dynamic_cast<LockWallPaper*>(design.elements()[1].get()));
-        EXPECT_EQ(design.elements()[1]->resources(), (Names{"bg_0.jpg", "2160_bg_0.jpg"}));
+        EXPECT_TRUE(dynamic_cast<LockWallPaper*>(design.design().elements()[1].get()));
+        EXPECT_EQ(design.design().elements()[1]->resources(), (Names{"bg_0.jpg", "2160_bg_0.jpg"}));
         EXPECT_EQ(design.validate(""), 0);
     }
 }

@@ -1,0 +1,262 @@
+#include "lockscreen/unlockConfigNode.h"
+#include "model/fileResNode.h"
+#include "model/pictureSize.h"
+#include "model/template.h"
+#include "modules/themeNode.h"
+#include "store/themeResource.h"
+#include "support/files.h"
+#include "support/text.h"
+
+/// The lock screen of an open theme.
+namespace zdt {
+
+namespace {
+
+const KeyPath videoPath{"unlock", "video", "image_set"};
+const KeyPath wallpaperVideoPath{"wallpaper", "image_set"};
+
+DesignRect cornerRect(const std::string& file) {
+    const PictureSize png = pngSize(file);
+    const PictureSize size = png == PictureSize() ? jpegSize(file) : png;
+    return {0, 0, static_cast<int>(size.width), static_cast<int>(size.height)};
+}
+
+} // namespace
+
+std::string ThemeResource::lockScreenType() const {
+    return node({"unlock"})->value();
+}
+
+int ThemeResource::setLockScreenType(const std::string& type) {
+    if (type.empty())
+        return returnCode::emptyValue;
+    if (!isXmlText(type) || type.find_first_not_of(" \t\n") == std::string::npos)
+        return returnCode::notAllowed;
+    ResNode* unlock = node({"unlock"});
+    ResNode* style = node({"unlock", "config", "style"});
+    const std::string oldType = unlock->value();
+    const std::string oldStyle = style->value();
+    if (const int code = unlock->setValue(type))
+        return code;
+    if (writeLockScreen())
+        return returnCode::success;
+    unlock->setRawValue(oldType);
+    style->setRawValue(oldStyle);
+    return returnCode::copyFailed;
+}
+
+/// The file that names the kind comes last: whatever fails before leaves the old kind standing.
+bool ThemeResource::writeLockScreen() {
+    const std::string type = lockScreenType();
+    if (type == unlockType::amazing && !_amazingNode->isReadable() && !_amazingNode->isDamaged()) {
+        startLockDesign();
+        if (!applyNode({"unlock", "amazing"}))
+            return false;
+    }
+    if (type == unlockType::video &&
+        !(applyNode({"unlock", "video"}) && applyNode({"unlock", "video", "ext.properties"}) &&
+          applyNode({"wallpaper", "ext.properties"})))
+        return false;
+    return applyNode({"unlock", "config"});
+}
+
+int ThemeResource::setLockVideo(const std::string& file) {
+    const int code = setLeaf(node(videoPath)->firstChild(), file);
+    ResNode* wallpaper = node(wallpaperVideoPath)->firstChild();
+    // The wallpaper's own check is the same, so that it takes what the lock screen took.
+    if (code == returnCode::success && wallpaper->value().empty())
+        static_cast<void>(setLeaf(wallpaper, file));
+    return code;
+}
+
+void ThemeResource::takePicturesFromTemplate() {
+    const std::string templatePath = locateTemplate(_rootDirectory, version());
+    for (const auto& [path, code] : _amazingNode->missingFiles()) {
+        const std::string file = templateFile(templatePath, path);
+        if (!templatePath.empty() && isPlainFile(file))
+            static_cast<void>(copyFile(file, _resTree->path() + path));
+    }
+}
+
+void ThemeResource::startLockDesign() {
+    _amazingNode->startNewDesign();
+    takePicturesFromTemplate();
+}
+
+int ThemeResource::setLockElementRect(const ElementPath& path, const DesignRect& rect) {
+    return changeDesign([&](LockDesign& design) { return design.setRect(path, rect); });
+}
+
+int ThemeResource::setLockElementAttributes(const ElementPath& path,
+                                            const std::map<std::string, std::string>& attributes) {
+    return changeDesign([&](LockDesign& design) { return design.setAttributes(path, attributes); });
+}
+
+int ThemeResource::moveLockElement(std::size_t from, std::size_t to) {
+    return changeDesign([&](LockDesign& design) { return design.moveElement(from, to); });
+}
+
+int ThemeResource::removeLockElement(std::size_t index) {
+    return changeDesign([&](LockDesign& design) { return design.removeElement(index); });
+}
+
+int ThemeResource::changeDesign(const std::function<int(LockDesign&)>& change) {
+    return _amazingNode->isReadable() ? change(_amazingNode->design()) : designCode::missingElement;
+}
+
+int ThemeResource::importDesignPicture(const std::string& file,
+                                       const std::function<int(LockDesign&, const std::string&)>& use) {
+    return changeDesign([&](LockDesign& design) {
+        std::string name;
+        const int code = _amazingNode->importPicture(file, name);
+        return code == returnCode::success ? use(design, name) : code;
+    });
+}
+
+int ThemeResource::addDecoration(const std::string& file, const DesignRect& rect,
+                                 const std::map<std::string, std::string>& attributes, std::size_t& index) {
+    return importDesignPicture(file, [&](LockDesign& design, const std::string& name) {
+        return design.addDecoration(name, rect, attributes, index);
+    });
+}
+
+int ThemeResource::setDecorationPicture(std::size_t index, const std::string& file) {
+    return importDesignPicture(
+        file, [&](LockDesign& design, const std::string& name) { return design.setDecorationFile(index, name); });
+}
+
+int ThemeResource::setDecorationChildren(std::size_t index, const std::vector<AmazingChild>& children) {
+    return changeDesign([&](LockDesign& design) { return design.setDecorationChildren(index, children); });
+}
+
+int ThemeResource::removeDecoration(std::size_t index) {
+    return changeDesign([&](LockDesign& design) { return design.removeDecoration(index); });
+}
+
+int ThemeResource::addLockWallpaper(const WallpaperPictures& pictures) {
+    std::vector<WallpaperPictures> all = _amazingNode->wallpaperPictures();
+    all.push_back(pictures);
+    return _amazingNode->setWallpaperPictures(all, lockWallpaperInterval());
+}
+
+int ThemeResource::replaceLockWallpaper(std::size_t row, const WallpaperPictures& pictures) {
+    std::vector<WallpaperPictures> all = _amazingNode->wallpaperPictures();
+    if (row >= all.size())
+        return designCode::unknownId;
+    all[row] = pictures;
+    return _amazingNode->setWallpaperPictures(all, lockWallpaperInterval());
+}
+
+int ThemeResource::removeLockWallpaper(std::size_t row) {
+    std::vector<WallpaperPictures> all = _amazingNode->wallpaperPictures();
+    if (row >= all.size())
+        return designCode::unknownId;
+    all.erase(all.begin() + static_cast<std::ptrdiff_t>(row));
+    return _amazingNode->setWallpaperPictures(all, lockWallpaperInterval());
+}
+
+int ThemeResource::setLockWallpaperInterval(WallpaperInterval interval) {
+    const std::vector<WallpaperPictures> all = _amazingNode->wallpaperPictures();
+    return all.empty() ? designCode::missingElement : _amazingNode->setWallpaperPictures(all, interval);
+}
+
+WallpaperInterval ThemeResource::lockWallpaperInterval() const {
+    return _amazingNode->wallpaperInterval().value_or(WallpaperInterval::minute);
+}
+
+int ThemeResource::addLockClock() {
+    return changeDesign([&](LockDesign& design) {
+        design.addClock();
+        takePicturesFromTemplate();
+        return returnCode::success;
+    });
+}
+
+int ThemeResource::removeLockClock() {
+    return changeDesign([&](LockDesign& design) { return design.removeClock(); });
+}
+
+int ThemeResource::removeLockClockPicture() {
+    return changeDesign([&](LockDesign& design) { return design.removeClockPicture(); });
+}
+
+int ThemeResource::setClockDigitPicture(ClockDigit digit, std::size_t value, const std::string& file) {
+    const TimeAboutImage* image = _amazingNode->design().clockDigit(digit);
+    if (!image)
+        return designCode::missingElement;
+    const auto names = image->resources();
+    return names && value < names->size() ? _amazingNode->replacePicture((*names)[value], file) : designCode::unknownId;
+}
+
+int ThemeResource::setClockPicture(const std::string& file) {
+    const TimeAboutImage* image = _amazingNode->design().clockPicture();
+    return image ? _amazingNode->replacePicture(image->src(), file) : designCode::missingElement;
+}
+
+int ThemeResource::setChargePicture(std::size_t index, const std::string& file) {
+    if (index >= chargeConditions.size())
+        return designCode::unknownId;
+    return importDesignPicture(file, [&](LockDesign& design, const std::string& name) {
+        return design.setChargePicture(index, name, cornerRect(file));
+    });
+}
+
+int ThemeResource::removeChargePicture(std::size_t index) {
+    return changeDesign([&](LockDesign& design) { return design.removeChargePicture(index); });
+}
+
+int ThemeResource::addMusicControl() {
+    return changeDesign([&](LockDesign& design) {
+        design.addMusic();
+        takePicturesFromTemplate();
+        return returnCode::success;
+    });
+}
+
+int ThemeResource::removeMusicControl() {
+    return changeDesign([&](LockDesign& design) { return design.removeMusic(); });
+}
+
+int ThemeResource::replaceLockPicture(const std::string& name, const std::string& file) {
+    return _amazingNode->replacePicture(name, file);
+}
+
+int ThemeResource::addLockText(const std::string& src) {
+    return changeDesign([&](LockDesign& design) { return design.addText(src); });
+}
+
+int ThemeResource::removeLockText(const std::string& src) {
+    return changeDesign([&](LockDesign& design) { return design.removeText(src); });
+}
+
+int ThemeResource::addUnlocker(UnlockerKind kind) {
+    return changeDesign([&](LockDesign& design) {
+        design.addUnlocker(kind);
+        return returnCode::success;
+    });
+}
+
+int ThemeResource::removeUnlocker(UnlockerKind kind) {
+    return changeDesign([&](LockDesign& design) { return design.removeUnlocker(kind); });
+}
+
+int ThemeResource::setUnlockerStart(UnlockerKind kind, const DesignRect& rect) {
+    return changeDesign([&](LockDesign& design) { return design.setStartPoint(kind, rect); });
+}
+
+int ThemeResource::setUnlockerEnd(UnlockerKind kind, const DesignRect& rect) {
+    return changeDesign([&](LockDesign& design) { return design.setEndPoint(kind, rect); });
+}
+
+int ThemeResource::setUnlockMode(int mode) {
+    return changeDesign([&](LockDesign& design) { return design.setUnlockMode(mode); });
+}
+
+int ThemeResource::addSmartIcon() {
+    return changeDesign([](LockDesign& design) {
+        design.addSmartIcon();
+        return returnCode::success;
+    });
+}
+
+} // namespace zdt
