@@ -8,8 +8,6 @@
 namespace zdt {
 namespace {
 
-using test::Video;
-
 constexpr std::string_view wrongLockSize = kWarn_upload_correct_unlock_video_nine_format;
 constexpr std::string_view wrongWallpaperSize = kWarn_upload_correct_unlock_video_wallpaper_format;
 constexpr std::string_view tooMuch = kWarn_upload_correct_unlock_video_nine_size;

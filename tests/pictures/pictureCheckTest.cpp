@@ -21,7 +21,7 @@ protected:
     /// A file of that many bytes that begins like a PNG of 30 by 40, or like a GIF of 12 by 20.
     std::string file(const std::string& name, std::uint64_t bytes) const {
         const std::string start = name.ends_with("gif") ? test::gifBytes({}) : test::pngStart(30, 40);
-        const std::string path = folder.write(name, start);
+        std::string path = folder.write(name, start);
         if (bytes > 0)
             std::filesystem::resize_file(path, bytes);
         return path;

@@ -92,12 +92,16 @@ TEST_F(PictureConversionTest, OnlySizesOfAScreenAndMoreAreScaledTo) {
 
 TEST_F(PictureConversionTest, FailureLeavesTheSourceAsItWas) {
     const std::string good = test::readFile(picture("good.png", 50, 50, Qt::red));
+    QImageReader::setAllocationLimit(0); // Our own bound alone is left to refuse what is too large.
+    QImage tooLarge(8192, 8193, QImage::Format_Mono);
+    tooLarge.fill(0);
+    ASSERT_TRUE(tooLarge.save(QString::fromStdString(folder.path("large.png"))));
     const std::pair<const char*, std::string> cases[] = {
         {"empty", ""},
         {"text", "no picture"},
         {"cut", good.substr(0, good.size() / 2)},
         {"header alone", test::jpegHeader(1080, 1920)},
-        {"a row more than the most pixels", test::pngStart(8192, 8193)},
+        {"a row more than the most pixels", test::readFile(folder.path("large.png"))},
         {"60,000 x 60,000", test::pngStart(60000, 60000)},
         {"larger than the memory of a computer", test::pngStart(0x7fffffff, 0x7fffffff)},
     };
