@@ -8,5 +8,7 @@ packages=(
     # to test and check
     libgtest-dev libbenchmark-dev clang-format clang-tidy
     aapt # compiles every nine-patch picture of the templates
+    ffmpeg # makes real videos for the tests, and ffprobe is the peer of their inspection
+    libgif-dev # writes the GIFs of the tests
     zip unzip python3 # peers of the benchmarks, and the tests of the program as a whole
 )
