@@ -227,6 +227,10 @@ void Grammar::addLockCommands() {
     addTextCommand(
         "expand", "The picture names that a src of a lock screen layout stands for",
         [](const Context& context, const Arguments& arguments) { return expandCommand(context, arguments.text); });
+    CLI::App* inspect =
+        add("inspect", "What an MP4, PNG or JPEG holds, by its content",
+            [](const Context& context, const Arguments& arguments) { return inspectCommand(context, arguments.file); });
+    inspect->add_option("FILE", _arguments.file, "The video or picture")->required();
 }
 
 /// A message as the author knows the arguments.

@@ -36,6 +36,8 @@ int evalCommand(const Context& context, const std::string& text);
 /// @param height of the screen, 1920 or 2160
 int foldCommand(const Context& context, const std::string& text, std::uint32_t height);
 int expandCommand(const Context& context, const std::string& src);
+/// A video or picture by its content.
+int inspectCommand(const Context& context, const std::string& file);
 
 int checkCommand(const Context& context, const std::string& name);
 int exportCommand(const Context& context, const std::string& name, const std::string& file);

@@ -77,7 +77,7 @@ bool printProblems(const Context& context, const std::vector<Problem>& problems)
     Json list = Json::array();
     std::vector<std::string> lines;
     for (const Problem& problem : problems) {
-        const std::string reason = wordsFor(problem.code);
+        const std::string reason = wordsFor(problem);
         list.push_back({{"key", problem.key}, {"path", problem.path}, {"code", problem.code}, {"reason", reason}});
         const std::string file = problem.path.empty() ? std::string() : " [" + problem.path + "]";
         lines.push_back((problem.key.empty() ? "description" : problem.key) + ": " + reason + " (" +

@@ -47,6 +47,12 @@ std::string wordsFor(int code) {
     }
 }
 
+std::string wordsFor(const Problem& problem) {
+    if (problem.key == "unlock/amazing" && problem.code == incompleteMusic)
+        return "a picture of the music control is missing";
+    return wordsFor(problem.code);
+}
+
 std::string wordsFor(ImportFailure failure) {
     switch (failure) {
     case ImportFailure::none:

@@ -10,6 +10,9 @@ namespace zdt {
 /// Those for a return code.
 [[nodiscard]] std::string wordsFor(int code);
 
+/// Those for a thing that stands in the way of an export.
+[[nodiscard]] std::string wordsFor(const Problem& problem);
+
 /// Those for a package that could not be imported.
 [[nodiscard]] std::string wordsFor(ImportFailure failure);
 

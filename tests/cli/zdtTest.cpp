@@ -1,4 +1,5 @@
 #include "cli/application.h"
+#include "common/mp4Bytes.h"
 #include "common/storeFixture.h"
 #include "support/files.h"
 
@@ -321,6 +322,85 @@ TEST_F(ZdtTest, OptionsMayStandAnywhereBeforeTheDashes) {
     EXPECT_EQ(runBare({"zdt", "--root", store.root().substr(0, store.root().size() - 1), "list", "--json"}).out,
               expected);
     EXPECT_EQ(run({"get", "list", "title", "--json"}).out, "\"English Name\"\n") << "a theme may bear a command's name";
+}
+
+TEST_F(ZdtTest, LockScreenIsShownAndChangesItsKind) {
+    store.create("T", {0});
+    const json lock = document({"lock", "T"});
+    EXPECT_EQ(lock["type"], "amazing");
+    EXPECT_EQ(lock["layout"], "layout1");
+    EXPECT_EQ(lock["screenHeight"], 1920);
+    EXPECT_EQ(lock["unlockMode"], 2);
+    EXPECT_EQ(lock["hasWallpaper"], false);
+    ASSERT_EQ(lock["elements"].size(), 13U);
+    EXPECT_EQ(lock["elements"][1]["kind"], "hour1");
+    EXPECT_EQ(lock["elements"][1]["resources"], json({"number_0.png", "number_1.png", "number_2.png"}));
+    EXPECT_EQ(lock["elements"][12]["unlockerKind"], 2);
+    EXPECT_EQ(lock["elements"][12]["children"][1]["children"][1]["attributes"]["type"], "unlock");
+    EXPECT_NE(run({"lock", "T"}).out.find("unlocker\tunlocker\tname=unlock_up"), std::string::npos);
+
+    EXPECT_EQ(run({"lock", "T", "slide"}).status, 0);
+    EXPECT_EQ(document({"lock", "T"})["type"], "slide");
+    const Result unknown = run({"lock", "T", "vidoe"});
+    EXPECT_EQ(unknown.status, 0) << "a phone may know more kinds";
+    EXPECT_NE(unknown.err.find("vidoe is no kind of lock screen that zdt knows"), std::string::npos);
+    expectRefusal({"lock", "T", ""}, "T: the value is empty (-18)");
+    expectRefusal({"lock", "None", "slide"}, "None: there is no theme of that name");
+    EXPECT_EQ(document({"lock", "T"})["type"], "vidoe");
+    store.write("res/T/unlock/theme.xml", "<ZDTheme><cut");
+    EXPECT_EQ(run({"lock", "T", "amazing"}).status, 0) << "this is how a damaged one is mended";
+    EXPECT_EQ(run({"check", "T"}).out, "");
+}
+
+TEST_F(ZdtTest, TextsOfALayoutAreComputed) {
+    const struct {
+        std::vector<std::string> arguments;
+        json result;
+    } cases[] = {
+        {{"eval", "2+3*4"}, 14},
+        {{"eval", "--", "-7/2"}, 3},
+        {{"eval", "1+(2%3)"}, 0},
+        {{"eval", "7/0"}, 0},
+        {{"eval", ""}, 0},
+        {{"fold", "system.screen_height - 100 - 20", "--height", "1920"}, "system.screen_height-120"},
+        {{"fold", "--height", "2160", "--", "-5"}, "-5"},
+        {{"fold", "1920-240", "--height", "2160"}, "1680"},
+        {{"expand", "system.time.min1/2"}, {"0", "1", "2"}},
+        {{"expand", "a.png"}, {"a.png"}},
+        {{"expand", "'n'+system.time.hour2%3+'.png'"}, {"n0.png", "n1.png", "n2.png"}},
+    };
+    for (const auto& [arguments, result] : cases) {
+        std::vector<std::string> line = arguments;
+        line.insert(line.begin(), {"zdt", "--json"});
+        const Result ran = runBare(line);
+        EXPECT_EQ(ran.status, 0) << testing::PrintToString(arguments);
+        EXPECT_EQ(json::parse(ran.out, nullptr, false), result) << testing::PrintToString(arguments);
+    }
+    EXPECT_EQ(runBare({"zdt", "expand", "system.time.min1/2"}).out, "0\n1\n2\n");
+    EXPECT_EQ(runBare({"zdt", "fold", "1", "--height", "2000"}).status, 2);
+    EXPECT_EQ(runBare({"zdt", "fold", "1"}).status, 2);
+    std::string endless = "system.time.min2";
+    for (int factor = 0; factor < 5; ++factor)
+        endless += "+system.time.min2";
+    for (const std::string& src : {endless, std::string(5000, 'a')}) {
+        const Result refused = runBare({"zdt", "expand", src});
+        EXPECT_EQ(refused.status, 1);
+        EXPECT_NE(refused.err.find("stands for more than 10000 names"), std::string::npos);
+    }
+}
+
+TEST_F(ZdtTest, FilesAreInspectedByTheirContent) {
+    const std::string video = store.write("video.jpg", test::mp4());
+    const json inspected = document({"inspect", video});
+    EXPECT_EQ(inspected["type"], "mp4");
+    EXPECT_EQ(inspected["fileSize"], fileSize(video));
+    EXPECT_EQ(inspected.size(), 7U);
+    EXPECT_EQ(document({"inspect", store.write("a.mp4", test::pngHeader(3, 4))}),
+              json({{"type", "png"}, {"width", 3}, {"height", 4}}));
+    EXPECT_EQ(run({"inspect", store.write("a.txt", test::jpegHeader(5, 6))}).out, "type: jpeg\nwidth: 5\nheight: 6\n");
+    const std::string text = store.write("text.mp4", "no video");
+    expectRefusal({"inspect", text}, text + ": it is no PNG, no JPEG and no MP4 video that can be read");
+    expectRefusal({"inspect", store.root()}, store.root() + ": there is no such file, or it is no plain file");
 }
 
 } // namespace
