@@ -22,6 +22,7 @@ struct Arguments {
     std::string key;
     std::string file;
     std::vector<std::string> pairs;
+    std::vector<std::string> setting;
     std::string generation;
     std::string icon;
     std::string onOff;
@@ -74,6 +75,7 @@ public:
         _app.fallthrough();
         addThemeCommands();
         addValueCommands();
+        addSimpleCommand();
         addPackageCommands();
     }
 
@@ -82,6 +84,7 @@ public:
         for (std::string* argument : {&_arguments.name, &_arguments.key, &_arguments.file})
             unshield(*argument);
         std::for_each(_arguments.pairs.begin(), _arguments.pairs.end(), unshield);
+        std::for_each(_arguments.setting.begin(), _arguments.setting.end(), unshield);
         return _chosen(_context, _arguments);
     }
 
@@ -107,6 +110,7 @@ private:
 
     void addThemeCommands();
     void addValueCommands();
+    void addSimpleCommand();
     void addPackageCommands();
 
     CLI::App _app;
@@ -171,6 +175,18 @@ void Grammar::addValueCommands() {
             return resetCommand(context, arguments.name, arguments.key);
         });
     reset->add_option("KEY", _arguments.key, "Node names joined by \"/\"")->required();
+}
+
+void Grammar::addSimpleCommand() {
+    CLI::App* simple = addNamed(
+        "simple", "Lists the shared settings, or sets one", [](const Context& context, const Arguments& arguments) {
+            const std::vector<std::string>& words = arguments.setting;
+            return words.empty()
+                       ? simpleCommand(context, arguments.name)
+                       : setSimpleCommand(context, arguments.name, {{words[0], words[1]}, words[2], words[3]});
+        });
+    constexpr int words = 4;
+    simple->add_option("MODULE GROUP ITEM VALUE", _arguments.setting, "The setting to change")->expected(words);
 }
 
 void Grammar::addPackageCommands() {
