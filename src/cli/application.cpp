@@ -23,6 +23,7 @@ struct Arguments {
     std::string key;
     std::string file;
     std::vector<std::string> pairs;
+    std::vector<std::string> setting;
     std::string generation;
     std::string icon;
     std::string onOff;
@@ -79,6 +80,7 @@ public:
         _app.fallthrough();
         addThemeCommands();
         addValueCommands();
+        addSimpleCommand();
         addPackageCommands();
         addLockCommands();
     }
@@ -90,6 +92,7 @@ public:
         if (_arguments.type)
             unshield(*_arguments.type);
         std::for_each(_arguments.pairs.begin(), _arguments.pairs.end(), unshield);
+        std::for_each(_arguments.setting.begin(), _arguments.setting.end(), unshield);
         return _chosen(_context, _arguments);
     }
 
@@ -115,6 +118,7 @@ private:
 
     void addThemeCommands();
     void addValueCommands();
+    void addSimpleCommand();
     void addPackageCommands();
     void addLockCommands();
     CLI::App* addTextCommand(const std::string& name, const std::string& description, const Command& command);
@@ -181,6 +185,18 @@ void Grammar::addValueCommands() {
             return resetCommand(context, arguments.name, arguments.key);
         });
     reset->add_option("KEY", _arguments.key, "Node names joined by \"/\"")->required();
+}
+
+void Grammar::addSimpleCommand() {
+    CLI::App* simple = addNamed(
+        "simple", "Lists the shared settings, or sets one", [](const Context& context, const Arguments& arguments) {
+            const std::vector<std::string>& words = arguments.setting;
+            return words.empty()
+                       ? simpleCommand(context, arguments.name)
+                       : setSimpleCommand(context, arguments.name, {{words[0], words[1]}, words[2], words[3]});
+        });
+    constexpr int words = 4;
+    simple->add_option("MODULE GROUP ITEM VALUE", _arguments.setting, "The setting to change")->expected(words);
 }
 
 void Grammar::addPackageCommands() {

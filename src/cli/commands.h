@@ -17,6 +17,13 @@ struct NewTheme {
     bool english = false;
 };
 
+/// One of the shared settings of simple mode, and what it is to hold.
+struct SharedSetting {
+    KeyPath group; ///< The module's and the group's name.
+    std::string item;
+    std::string value;
+};
+
 int listCommand(const Context& context);
 int newCommand(const Context& context, const NewTheme& request);
 int infoCommand(const Context& context, const std::string& name);
@@ -29,6 +36,9 @@ int getCommand(const Context& context, const std::string& name, const std::strin
 /// @param pairs keys and values in turn
 int setCommand(const Context& context, const std::string& name, const std::vector<std::string>& pairs);
 int resetCommand(const Context& context, const std::string& name, const std::string& key);
+
+int simpleCommand(const Context& context, const std::string& name);
+int setSimpleCommand(const Context& context, const std::string& name, const SharedSetting& setting);
 
 int lockCommand(const Context& context, const std::string& name);
 int setLockCommand(const Context& context, const std::string& name, const std::string& type);
@@ -62,6 +72,12 @@ private:
 
 /// Opens a theme that stands under the store root, with the language that its settings tell.
 [[nodiscard]] std::unique_ptr<ThemeResource> openListed(const Context& context, const std::string& name);
+
+/// Refuses what an XML file doesn't give back as it was written.
+void requireKeepable(const std::string& key, const std::string& value);
+
+/// The refusal of what another kind of theme has.
+[[nodiscard]] Refusal takesNoPart(const std::string& key);
 
 /// A mask as it is printed: "0x" and eight digits.
 [[nodiscard]] std::string maskText(TypeMask mask);

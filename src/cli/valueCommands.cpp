@@ -55,18 +55,8 @@ Key requireKey(const ThemeResource& theme, const std::string& text) {
     if (!key.node)
         throw Refusal(text, returnCode::notFound);
     if (!key.node->isApplicable())
-        throw Refusal(text, "the key takes no part in this theme (" + std::to_string(returnCode::notFound) + ")");
+        throw takesNoPart(text);
     return key;
-}
-
-/// Refuses what an XML file doesn't give back as it was written.
-void requireKeepable(const std::string& key, const std::string& value) {
-    if (!isUtf8(value))
-        throw Refusal(key, "the value isn't UTF-8");
-    if (!isXmlText(value))
-        throw Refusal(key, "the value holds a control character");
-    if (!value.empty() && value.find_first_not_of(" \t\n") == std::string::npos)
-        throw Refusal(key, "the value is nothing but blanks");
 }
 
 void setOne(ThemeResource& theme, const std::string& text, const std::string& value, std::vector<KeyPath>& touched) {
@@ -95,6 +85,19 @@ void applyBlocks(ThemeResource& theme, const std::vector<KeyPath>& blocks) {
 }
 
 } // namespace
+
+void requireKeepable(const std::string& key, const std::string& value) {
+    if (!isUtf8(value))
+        throw Refusal(key, "the value isn't UTF-8");
+    if (!isXmlText(value))
+        throw Refusal(key, "the value holds a control character");
+    if (!value.empty() && value.find_first_not_of(" \t\n") == std::string::npos)
+        throw Refusal(key, "the value is nothing but blanks");
+}
+
+Refusal takesNoPart(const std::string& key) {
+    return {key, "the key takes no part in this theme (" + std::to_string(returnCode::notFound) + ")"};
+}
 
 int treeCommand(const Context& context, const std::string& name) {
     const auto theme = openListed(context, name);

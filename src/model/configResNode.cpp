@@ -42,6 +42,14 @@ Keys mergePair(const Keys& merged, const Keys& added) {
     return result;
 }
 
+void printValue(tinyxml2::XMLPrinter& printer, const std::string& nodeName, const ResNode& child) {
+    printer.OpenElement(nodeName.c_str());
+    printer.PushAttribute("name", child.name().c_str());
+    if (const std::string value = child.value(); !value.empty())
+        printer.PushText(value.c_str());
+    printer.CloseElement();
+}
+
 } // namespace
 
 std::vector<std::string> mergeKeyLists(const std::vector<KeyList>& lists) {
@@ -128,17 +136,21 @@ bool ConfigResNode::save(bool all) {
     const std::string path = filePath();
     if (path.empty())
         return false;
-    tinyxml2::XMLDocument document;
-    tinyxml2::XMLElement& root = startXml(document, _rootElement);
+    tinyxml2::XMLPrinter printer;
+    startXml(printer, _rootElement);
+    bool isEmpty = true;
     for (const ResNode* child = firstChild(); child; child = child->next()) {
         if (!all && !child->isApplicable())
             continue;
         const std::string& nodeName = typeOf(child->name());
         ZDT_ASSERT(!nodeName.empty() || nodeName == _defaultType, source);
-        if (!nodeName.empty())
-            addXmlElement(root, nodeName, child->value()).SetAttribute("name", child->name().c_str());
+        if (nodeName.empty())
+            continue;
+        printValue(printer, nodeName, *child);
+        isEmpty = false;
     }
-    return root.NoChildren() || (makePath(path) && _damaged.keepFrom(path) && saveXml(document, path));
+    printer.CloseElement();
+    return isEmpty || (makePath(path) && _damaged.keepFrom(path) && saveXml(printer, path));
 }
 
 } // namespace zdt

@@ -40,7 +40,7 @@ public:
     /// What a new theme of the present generation would hold.
     [[nodiscard]] virtual std::string defaultValue() const;
 
-    [[nodiscard]] std::string name() const { return _name; }
+    [[nodiscard]] const std::string& name() const { return _name; }
     /// A colour or text; for a file, the path of the current file. Empty if nothing is set.
     [[nodiscard]] std::string value() const { return _value; }
     /// The directory, relative to the theme's and ending in "/", in which the node's file belongs; in the root, the

@@ -2,6 +2,7 @@
 
 #include "lockscreen/amazingUnlockNode.h"
 #include "modules/iconsNode.h"
+#include "modules/simpleModeTree.h"
 #include "modules/themeNode.h"
 #include "store/themeLayout.h"
 #include "support/assertion.h"
@@ -52,9 +53,11 @@ ThemeResource::ThemeResource(std::string root, std::string name, TypeMask mask)
     _resTree = std::make_unique<ThemeNode>(mask, themeFolder(_rootDirectory, _name));
     _amazingNode = dynamic_cast<AmazingUnlockNode*>(_resTree->findByPath(KeyPath{"unlock", "amazing"}));
     ZDT_ASSERT(_amazingNode, source);
+    _simpleModeTree = buildSimpleModeTree(*_resTree);
 }
 
 ThemeResource::~ThemeResource() {
+    _simpleModeTree.reset();
     static_cast<void>(saveSettings());
 }
 

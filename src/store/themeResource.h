@@ -23,6 +23,7 @@ namespace zdt {
 
 class FileResNode;
 class ResNode;
+class SimpleModeImplNode;
 class ThemeNode;
 
 /// One thing that stands in the way of an export.
@@ -92,7 +93,7 @@ public:
     /// Bytes of all the theme's files.
     [[nodiscard]] static std::uint64_t themeSize(const std::string& name, const std::string& root);
 
-    /// Writes the settings, if they changed, and frees the tree.
+    /// Frees the shared settings, writes the theme's own, if they changed, and frees the tree.
     ~ThemeResource();
     ThemeResource(const ThemeResource&) = delete;
     ThemeResource& operator=(const ThemeResource&) = delete;
@@ -161,6 +162,22 @@ public:
     [[nodiscard]] std::string themeDirectory(const std::string& name, bool useTmp) const;
     /// The node's key path joined by "/".
     [[nodiscard]] static std::string dirPathOf(const ResNode& node);
+
+    // The shared settings of simple mode. A key path names a group by its module and its own name, and `name` an item
+    // of it; all are words that an interface shows.
+
+    /// The names of the children of a path, in the tree's order: the modules for an empty one.
+    [[nodiscard]] std::vector<std::string> simpleNames(const KeyPath& keyPath) const;
+    /// What most of an item's sources hold, colours without their alpha; empty if none takes part in the theme.
+    [[nodiscard]] std::string simpleValue(const KeyPath& keyPath, const std::string& name) const;
+    /// The leaves that an item sets, those of other generations too.
+    [[nodiscard]] std::vector<ResNode*> simpleSources(const KeyPath& keyPath, const std::string& name) const;
+    /// Whether a source of the item takes part in the theme. An item without one isn't shown.
+    [[nodiscard]] bool simpleTakesPart(const KeyPath& keyPath, const std::string& name) const;
+    /// Sets all sources, or none if one refuses the value, whose code is the result; -14 without the item or sources.
+    [[nodiscard]] int setSimpleValue(const KeyPath& keyPath, const std::string& name, const std::string& value);
+    /// Writes the blocks of an item's sources. False if there is no such item or one of them can't be written.
+    [[nodiscard]] bool applySimple(const KeyPath& keyPath, const std::string& name);
 
     // What the author adds. A node that was made for a file which is then refused is removed again.
 
@@ -274,6 +291,7 @@ private:
 
     [[nodiscard]] ResNode* node(const KeyPath& keyPath) const;
     [[nodiscard]] int setLeaf(ResNode* leaf, const std::string& value);
+    [[nodiscard]] SimpleModeImplNode* simpleItem(const KeyPath& keyPath, const std::string& name) const;
 
     /// What takes part in a check and a save, in the tree's order: all that is applicable, outside the skipped nodes,
     /// and with a value where the theme may do without.
@@ -303,6 +321,7 @@ private:
     [[nodiscard]] int removeAddedFile(ResNode& parent, const std::string& name);
 
     std::unique_ptr<ThemeNode> _resTree;
+    std::unique_ptr<ResNode> _simpleModeTree;  ///< Points into `_resTree`.
     AmazingUnlockNode* _amazingNode = nullptr; ///< A node of the tree.
     std::string _rootDirectory;
     std::string _name;

@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::uint64_t maxXmlBytes = 16 * 1024 * 1024;
 constexpr int maxAttributes = 1000;
+constexpr const char* declaration = R"(xml version="1.0" encoding="UTF-8")";
 
 /// Whether no element has more attributes than `maxAttributes`: the parser compares each with all before it, and a file
 /// of many would take minutes. Any "=" between "<" and ">" counts, so that text can only make the answer stricter.
@@ -56,13 +57,23 @@ bool DamagedXml::keepFrom(const std::string& path) {
     return true;
 }
 
-bool saveXml(tinyxml2::XMLDocument& document, const std::string& path) {
-    AtomicFile file(path);
-    return file.isOpen() && document.SaveFile(file.stream()) == tinyxml2::XML_SUCCESS && file.commit();
+bool saveXml(const tinyxml2::XMLDocument& document, const std::string& path) {
+    tinyxml2::XMLPrinter printer;
+    document.Print(&printer);
+    return saveXml(printer, path);
+}
+
+bool saveXml(const tinyxml2::XMLPrinter& printer, const std::string& path) {
+    return writeFile(path, printer.CStr());
+}
+
+void startXml(tinyxml2::XMLPrinter& printer, const std::string& rootName) {
+    printer.PushDeclaration(declaration);
+    printer.OpenElement(rootName.c_str());
 }
 
 tinyxml2::XMLElement& startXml(tinyxml2::XMLDocument& document, const std::string& rootName) {
-    document.InsertEndChild(document.NewDeclaration());
+    document.InsertEndChild(document.NewDeclaration(declaration));
     tinyxml2::XMLElement* root = document.NewElement(rootName.c_str());
     document.InsertEndChild(root);
     return *root;

@@ -28,7 +28,13 @@ private:
 };
 
 /// Writes a document whole or not at all; the folder must exist.
-[[nodiscard]] bool saveXml(tinyxml2::XMLDocument& document, const std::string& path);
+[[nodiscard]] bool saveXml(const tinyxml2::XMLDocument& document, const std::string& path);
+
+/// The same for a text that was printed with no document: much faster for one that is written at each edit.
+[[nodiscard]] bool saveXml(const tinyxml2::XMLPrinter& printer, const std::string& path);
+
+/// Prints a declaration and opens the root element.
+void startXml(tinyxml2::XMLPrinter& printer, const std::string& rootName);
 
 /// A new document's declaration and root element.
 tinyxml2::XMLElement& startXml(tinyxml2::XMLDocument& document, const std::string& rootName);

@@ -72,6 +72,11 @@ TEST_F(ZdtTest, WrongUsageEndsWithTwoAndOneLine) {
                                                {"dynamic", "T", "moon", "on"},
                                                {"dynamic", "T", "clock", "maybe"},
                                                {"generation", "T", "6"},
+                                               {"simple"},
+                                               {"simple", "T", "launcher"},
+                                               {"simple", "T", "launcher", "folder"},
+                                               {"simple", "T", "launcher", "folder", "app text"},
+                                               {"simple", "T", "launcher", "folder", "app text", "#111111", "more"},
                                                {"check"},
                                                {"list", "--frobnicate"},
                                                {"list", "list"}}) {
@@ -126,6 +131,8 @@ TEST_F(ZdtTest, NameThatIsNoThemeIsRefusedBeforeAnythingIsWritten) {
         expectRefusal({"get", name, "title"}, line);
         expectRefusal({"set", name, "title", "x"}, line);
         expectRefusal({"reset", name, "title"}, line);
+        expectRefusal({"simple", name}, line);
+        expectRefusal({"simple", name, "launcher", "folder", "app text", "#111111"}, line);
         expectRefusal({"check", name}, line);
         expectRefusal({"export", name, store.path("x.zdt")}, line);
         expectRefusal({"delete", name}, line);
@@ -221,6 +228,48 @@ TEST_F(ZdtTest, SettingStopsAtTheFirstRefusalAndKeepsWhatCameBefore) {
     EXPECT_EQ(run({"get", "T", "launcher/text/checked"}).out, "#111111\n");
     EXPECT_EQ(run({"get", "T", "launcher/text/calendar_dynamic"}).out, "#ffffff\n");
     EXPECT_EQ(run({"get", "T", "launcher/text/widget_text_color"}).out, "#ffffff\n");
+}
+
+TEST_F(ZdtTest, SharedSettingsAreListedAndSet) {
+    store.create("T");
+    const json before = document({"simple", "T"});
+    ASSERT_EQ(before.size(), 32U);
+    EXPECT_EQ(before[1], json::parse(R"({"module": "launcher", "group": "folder", "item": "app text",
+        "value": "#ffffff", "sources": ["launcher/text/folder_app_text_color"]})"));
+    EXPECT_EQ(run({"simple", "T", "commonSetting", "dial", "highlight color", "#135790"}).err, "");
+    const json after = document({"simple", "T"});
+    for (std::size_t index = 0; index < after.size(); ++index) {
+        const bool isSet = after[index]["module"] == "commonSetting" && after[index]["item"] == "highlight color";
+        EXPECT_EQ(after[index]["value"], isSet ? json("#135790") : before[index]["value"]) << after[index]["item"];
+    }
+    EXPECT_EQ(run({"get", "T", "telecom/commonSetting/text/ovui_accent"}).out, "#135790\n");
+    EXPECT_EQ(run({"simple", "T", "launcher", "folder", "shadow switch", "true"}).status, 0);
+    const std::string lines = run({"simple", "T"}).out;
+    EXPECT_NE(lines.find("launcher\tfolder\tshadow switch\ttrue\n"), std::string::npos);
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), 32);
+}
+
+TEST_F(ZdtTest, SharedSettingIsRefusedWithItsReason) {
+    store.create("T");
+    store.create("S", {2, true});
+    const auto refuse = [&](const std::string& theme, const std::vector<std::string>& words, const std::string& why) {
+        std::vector<std::string> arguments{"simple", theme};
+        arguments.insert(arguments.end(), words.begin(), words.end());
+        expectRefusal(arguments, words[0] + "/" + words[1] + "/" + words[2] + ": " + why);
+    };
+    const std::string unknown = "there is no such key in this theme (-14)";
+    refuse("T", {"nothing", "dial", "highlight color", "#111111"}, unknown);
+    refuse("T", {"commonSetting", "nothing", "highlight color", "#111111"}, unknown);
+    refuse("T", {"commonSetting", "dial", "", "#111111"}, unknown);
+    refuse("S", {"mms", "MMS", "first level icon text", "#111111"}, "the key takes no part in this theme (-14)");
+    refuse("T", {"mms", "MMS", "first level icon text", "red"},
+           "the value doesn't have the form that the key asks for (-19)");
+    refuse("T", {"launcher", "folder", "shadow switch", "a\x01"}, "the value holds a control character");
+    refuse("T", {"launcher", "folder", "shadow switch", "a\xff"}, "the value isn't UTF-8");
+    const std::string folder = store.path("res/T/com.android.phone/framework-res-zdext");
+    ASSERT_TRUE(removeTree(folder));
+    store.write("res/T/com.android.phone/framework-res-zdext", "a file in the folder's place");
+    refuse("T", {"commonSetting", "dial", "highlight color", "#135790"}, "it couldn't be written");
 }
 
 TEST_F(ZdtTest, CheckListsWhatIsMissingAndExportRefusesIt) {

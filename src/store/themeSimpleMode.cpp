@@ -1,0 +1,54 @@
+#include "modules/simpleModeNode.h"
+#include "store/themeResource.h"
+#include "support/assertion.h"
+
+/// The shared settings of an open theme.
+namespace zdt {
+
+namespace {
+
+constexpr const char* source = "themeResource";
+
+} // namespace
+
+SimpleModeImplNode* ThemeResource::simpleItem(const KeyPath& keyPath, const std::string& name) const {
+    ZDT_ASSERT(_simpleModeTree, source);
+    ResNode* const found = _simpleModeTree->findByPathAndName(keyPath, name);
+    return found && found->isLeaf() ? dynamic_cast<SimpleModeImplNode*>(found) : nullptr;
+}
+
+std::vector<std::string> ThemeResource::simpleNames(const KeyPath& keyPath) const {
+    ZDT_ASSERT(_simpleModeTree, source);
+    std::vector<std::string> names;
+    const ResNode* const parent = _simpleModeTree->findByPath(keyPath);
+    for (const ResNode* child = parent ? parent->firstChild() : nullptr; child; child = child->next())
+        names.push_back(child->name());
+    return names;
+}
+
+std::string ThemeResource::simpleValue(const KeyPath& keyPath, const std::string& name) const {
+    const SimpleModeImplNode* const item = simpleItem(keyPath, name);
+    return item ? item->majorityValue() : std::string();
+}
+
+std::vector<ResNode*> ThemeResource::simpleSources(const KeyPath& keyPath, const std::string& name) const {
+    const SimpleModeImplNode* const item = simpleItem(keyPath, name);
+    return item ? item->sources() : std::vector<ResNode*>();
+}
+
+bool ThemeResource::simpleTakesPart(const KeyPath& keyPath, const std::string& name) const {
+    const SimpleModeImplNode* const item = simpleItem(keyPath, name);
+    return item && item->takesPart();
+}
+
+int ThemeResource::setSimpleValue(const KeyPath& keyPath, const std::string& name, const std::string& value) {
+    SimpleModeImplNode* const item = simpleItem(keyPath, name);
+    return item ? item->setValue(value) : returnCode::notFound;
+}
+
+bool ThemeResource::applySimple(const KeyPath& keyPath, const std::string& name) {
+    SimpleModeImplNode* const item = simpleItem(keyPath, name);
+    return item && item->save(true);
+}
+
+} // namespace zdt
