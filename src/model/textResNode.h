@@ -26,6 +26,7 @@ public:
 
 protected:
     void setRegex(const Pattern* pattern) { _regex = pattern; }
+    [[nodiscard]] bool hasRule(const Pattern& pattern) const { return _regex == &pattern; }
 
 private:
     const Pattern* _regex = nullptr; ///< Null if every value is allowed.
@@ -44,6 +45,8 @@ public:
     /// The limit of the alpha is that of `value`; there is none without a value or without alpha digits in it.
     explicit ColorTextResNode(std::string name = {}, std::string value = {});
     explicit ColorTextResNode(TypeMask mask, std::string name = {}, std::string value = {});
+
+    [[nodiscard]] int validate(const std::string& value) override;
 
     /// The largest alpha that the colour may bear, 0 to 255.
     [[nodiscard]] int maxAlpha() const { return _maxAlpha; }
