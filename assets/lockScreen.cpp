@@ -1,6 +1,7 @@
 #include "assets/lockScreen.h"
 
 #include "assets/lockPictures.h"
+#include "lockscreen/amazingElements.h"
 #include "lockscreen/geometry.h"
 #include "lockscreen/layoutDefaults.h"
 #include "lockscreen/layoutDocument.h"
@@ -56,20 +57,17 @@ struct Place {
     int height;
 };
 
-std::unique_ptr<AmazingChild> makePoint(const char* name, const Place& place) {
-    return std::make_unique<AmazingChild>(name, Attributes{{"x", place.x},
-                                                           {"y", place.y},
-                                                           {"w", std::to_string(place.width)},
-                                                           {"h", std::to_string(place.height)}});
+void setPlace(AmazingChild& element, const Place& place) {
+    const std::string width = std::to_string(place.width);
+    const std::string height = std::to_string(place.height);
+    layoutDefaults::setPlace(element, {place.x, place.y, width, height});
 }
 
 /// What the hand moves from one place to another to unlock the phone.
 void addUnlocker(LayoutElements& elements, const char* name, const Place& start, const Place& end) {
-    auto unlocker = std::make_unique<AmazingChild>("unlocker", Attributes{{"name", name}, {"visible", "true"}});
-    unlocker->addChild(makePoint("StartPoint", start));
-    AmazingChild& endPoint = unlocker->addChild(makePoint("EndPoint", end));
-    endPoint.addChild(std::make_unique<AmazingChild>("Path", Attributes{{"x", "0"}, {"y", "0"}}));
-    endPoint.addChild(std::make_unique<AmazingChild>("Intent", Attributes{{"type", "unlock"}}));
+    auto unlocker = std::make_unique<UnlockerData>(layoutDefaults::makeUnlocker(name));
+    setPlace(*unlocker->startPoints().front(), start);
+    setPlace(*unlocker->endPoints().front(), end);
     elements.push_back(std::move(unlocker));
 }
 

@@ -84,6 +84,8 @@ int lockCommand(const Context& context, const std::string& name) {
     const AmazingUnlockNode& node = theme->amazingNode();
     const LockDesign& design = node.design();
     const std::string type = theme->lockScreenType();
+    if (node.isDamaged())
+        context.err << "zdt: note: the layout is damaged and can't be read\n";
     Json elements = Json::array();
     std::vector<std::string> lines{"type: " + type, "layout: " + node.layoutName(),
                                    "screen height: " + std::to_string(node.screenHeight()),

@@ -1,10 +1,10 @@
 #include "lockscreen/amazingElements.h"
 
+#include "lockscreen/geometry.h"
 #include "lockscreen/pictureNames.h"
 #include "support/files.h"
 
 #include <algorithm>
-#include <array>
 
 namespace zdt {
 
@@ -54,28 +54,22 @@ std::optional<std::vector<std::string>> LockWallPaper::resources() const {
     return names;
 }
 
-UnlockerData::UnlockerData(AmazingChild&& element)
-    : AmazingChild(std::move(element)) {
-    collectPoints();
-}
-
-void UnlockerData::collectPoints() {
-    _startPoints.clear();
-    _endPoints.clear();
+std::vector<AmazingChild*> UnlockerData::childrenNamed(const std::string& name) const {
+    std::vector<AmazingChild*> named;
     for (const auto& child : children()) {
-        if (child->name() == "StartPoint")
-            _startPoints.push_back(child.get());
-        else if (child->name() == "EndPoint")
-            _endPoints.push_back(child.get());
+        if (child->name() == name)
+            named.push_back(child.get());
     }
+    return named;
 }
 
 int UnlockerData::unlockerKind() const {
-    if (_startPoints.size() != 1 || _endPoints.empty())
+    const std::vector<AmazingChild*> starts = startPoints();
+    const std::vector<AmazingChild*> ends = endPoints();
+    if (starts.size() != 1 || ends.empty())
         return 0;
-    constexpr std::array<const char*, 4> geometry{"x", "y", "w", "h"};
-    const bool samePlace = std::all_of(geometry.begin(), geometry.end(), [&](const char* key) {
-        return _startPoints.front()->attribute(key) == _endPoints.front()->attribute(key);
+    const bool samePlace = std::all_of(geometryKeys.begin(), geometryKeys.end(), [&](const char* key) {
+        return starts.front()->attribute(key) == ends.front()->attribute(key);
     });
     return samePlace ? 1 : 2;
 }
@@ -83,7 +77,7 @@ int UnlockerData::unlockerKind() const {
 bool isFullScreen(const AmazingChild& element) {
     const std::string height = element.attribute("h");
     return element.attribute("x") == "0" && element.attribute("y") == "0" && element.attribute("w") == "1080" &&
-           (height == "1920" || height == "2160" || height == "system.screen_height");
+           (height == "1920" || height == "2160" || height == screenHeightVariable);
 }
 
 bool changesWithTime(const std::string& src) {

@@ -54,23 +54,20 @@ public:
 /// What the hand moves to unlock: an element with points where it starts and ends.
 class UnlockerData : public AmazingChild {
 public:
-    explicit UnlockerData(AmazingChild&& element);
+    explicit UnlockerData(AmazingChild&& element)
+        : AmazingChild(std::move(element)) {}
     explicit UnlockerData(const tinyxml2::XMLElement* element)
         : UnlockerData(AmazingChild(element)) {}
-    UnlockerData(const UnlockerData&) = delete; // The lists would point into the other element.
 
-    /// Children of this element, not owned by the lists.
-    [[nodiscard]] const std::vector<AmazingChild*>& startPoints() const { return _startPoints; }
-    [[nodiscard]] const std::vector<AmazingChild*>& endPoints() const { return _endPoints; }
-    /// To be called when the children changed.
-    void collectPoints();
+    /// Children of this element, in their order.
+    [[nodiscard]] std::vector<AmazingChild*> startPoints() const { return childrenNamed("StartPoint"); }
+    [[nodiscard]] std::vector<AmazingChild*> endPoints() const { return childrenNamed("EndPoint"); }
     /// 1 if the first end lies where the one start does, 2 if it lies elsewhere; 0 without an end, or if the starts are
     /// not exactly one.
     [[nodiscard]] int unlockerKind() const;
 
 private:
-    std::vector<AmazingChild*> _startPoints;
-    std::vector<AmazingChild*> _endPoints;
+    [[nodiscard]] std::vector<AmazingChild*> childrenNamed(const std::string& name) const;
 };
 
 /// Whether the attributes are those of a picture that fills the screen.

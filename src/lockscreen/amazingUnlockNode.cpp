@@ -80,16 +80,15 @@ void AmazingUnlockNode::readDesign() {
     if (!_readable)
         _damaged.note(file);
     _design = LockDesign(std::move(elements), _screenHeight);
-    if (LockWallPaper* wallpaper = _design.wallpaper()) {
-        wallpaper->lookUpFiles(pictureFile({}));
-        _hasWallpaper = true;
-    }
+    _design.lookUpWallpaperFiles(pictureFile({}));
+    _hasWallpaper = _design.wallpaper() != nullptr;
     _ownPictures = namedPictures();
 }
 
 void AmazingUnlockNode::startNewDesign() {
     _design = LockDesign::makeDefault(_screenHeight);
     _readable = true;
+    _hasWallpaper = false;
 }
 
 void AmazingUnlockNode::setScreenHeight(std::uint32_t height) {

@@ -73,9 +73,12 @@ public:
     /// @return 0; -2 without the file, -20 if it is empty or larger than 10 MiB, -23 if it is neither PNG nor JPEG, -3
     ///         if it can't be copied
     [[nodiscard]] int importPicture(const std::string& file, std::string& name);
-    /// Puts a picture in the place of one that an element names; the codes of `importPicture`, and -6 for a name that
-    /// no element has.
+    /// Puts a picture in the place of one that an element names.
+    /// @return 0; -6 for a name that no element has; -21 for a picture of another kind than the name says; else the
+    ///         codes of `importPicture`
     [[nodiscard]] int replacePicture(const std::string& name, const std::string& file) const;
+    /// 0 if it may be replaced so, or the code.
+    [[nodiscard]] int checkReplacement(const std::string& name, const std::string& file) const;
 
     // The wallpaper's pictures come in pairs for the two screen heights, or all of one height.
 
@@ -84,8 +87,7 @@ public:
     [[nodiscard]] std::optional<WallpaperInterval> wallpaperInterval() const;
     /// Gives the wallpaper its pictures, copying them all.
     /// @return 0; -1 without a design; -9 for none, for more than the interval can show, and for halves of pairs among
-    /// them; else as
-    ///         `importPicture`
+    ///         them; -21 for a picture that is no JPEG; else the codes of `importPicture`
     [[nodiscard]] int setWallpaperPictures(const std::vector<WallpaperPictures>& pictures, WallpaperInterval interval);
 
 private:

@@ -44,6 +44,15 @@ int checkPicture(const std::string& file) {
     return isPng(file) || isJpeg(file) ? returnCode::success : returnCode::unreadablePicture;
 }
 
+constexpr std::string_view ninePatchEnding = ".9.png";
+
+/// The ending that a picture gets: a nine-patch keeps its own, since the phone knows it by that.
+std::string endingFor(const std::string& file) {
+    if (!isPng(file))
+        return ".jpg";
+    return std::string(file.ends_with(ninePatchEnding) ? ninePatchEnding : ".png");
+}
+
 bool isSafe(char c) {
     return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
 }
@@ -51,7 +60,9 @@ bool isSafe(char c) {
 /// The file's name without its ending, with "_" for every sign that a `src` or the phone could misread.
 std::string safeStem(const std::string& file) {
     constexpr std::size_t longest = 64;
-    std::string name = stem(file).substr(0, longest);
+    std::string name = fileName(file);
+    name = (name.ends_with(ninePatchEnding) ? name.substr(0, name.size() - ninePatchEnding.size()) : stem(name))
+               .substr(0, longest);
     std::replace_if(
         name.begin(), name.end(), [](char c) { return !isSafe(c); }, '_');
     return name.empty() ? "picture" : name;
@@ -85,7 +96,7 @@ std::size_t maxWallpaperPictures(WallpaperInterval interval) {
 
 std::string AmazingUnlockNode::freePictureName(const std::string& file) const {
     const std::string base = safeStem(file);
-    const std::string ending = isPng(file) ? ".png" : ".jpg";
+    const std::string ending = endingFor(file);
     const std::set<std::string> named = namedPictures();
     std::string name = base + ending;
     for (int number = 2; named.contains(name) || isTaken(pictureFile(name)); ++number)
@@ -109,14 +120,19 @@ int AmazingUnlockNode::importPicture(const std::string& file, std::string& name)
     return returnCode::success;
 }
 
-int AmazingUnlockNode::replacePicture(const std::string& name, const std::string& file) const {
+int AmazingUnlockNode::checkReplacement(const std::string& name, const std::string& file) const {
     if (!isBareFileName(name) || !namedPictures().contains(name))
         return designCode::unknownId;
     if (const int code = checkPicture(file))
         return code;
     const std::string ending = toLowerAscii(extension(name));
-    if (isPng(file) ? ending != ".png" : ending != ".jpg")
-        return returnCode::wrongKind;
+    const bool fits = isPng(file) ? ending == ".png" : ending == ".jpg" || ending == ".jpeg";
+    return fits ? returnCode::success : returnCode::wrongKind;
+}
+
+int AmazingUnlockNode::replacePicture(const std::string& name, const std::string& file) const {
+    if (const int code = checkReplacement(name, file))
+        return code;
     return copyFile(file, pictureFile(name)) ? returnCode::success : returnCode::copyFailed;
 }
 
@@ -191,7 +207,7 @@ int AmazingUnlockNode::setWallpaperPictures(const std::vector<WallpaperPictures>
         return code;
     if (const int code = _design.setWallpaperSource(wallpaperSource(prefix, pictures.size(), interval, paired)))
         return code;
-    _design.wallpaper()->lookUpFiles(pictureFile({}));
+    _design.lookUpWallpaperFiles(pictureFile({}));
     _hasWallpaper = true;
     return returnCode::success;
 }

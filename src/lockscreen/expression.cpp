@@ -134,9 +134,10 @@ Tokens toPostfix(const Tokens& tokens) {
 }
 
 Evaluator::Evaluator(const Tokens& postfix) {
+    if (postfix.size() > maxExpressionTokens)
+        return;
     std::vector<std::unique_ptr<Expression>> stack;
-    for (std::size_t index = 0; index < std::min(postfix.size(), maxExpressionTokens); ++index) {
-        const std::string& token = postfix[index];
+    for (const std::string& token : postfix) {
         if (!isOperator(token)) {
             stack.push_back(std::make_unique<Number>(leadingNumber(token)));
             continue;

@@ -90,7 +90,7 @@ using Tokens = std::vector<std::string>;
 /// weaker than "+", and as it comes it sends everything off the stack, an open bracket too.
 [[nodiscard]] Tokens toPostfix(const Tokens& tokens);
 
-/// How many tokens of a postfix list are read at most, so that no text makes a tree too deep to walk.
+/// The longest postfix list that is read, so that no text makes a tree too deep to walk; a longer one has the value 0.
 inline constexpr std::size_t maxExpressionTokens = 4096;
 
 /// The tree of a postfix list. An operator with fewer than two operands in front of it ends the reading; "%" divides as

@@ -1,7 +1,6 @@
 #include "lockscreen/geometry.h"
 
 #include "lockscreen/expression.h"
-#include "model/fileResNode.h"
 #include "support/assertion.h"
 #include "support/pattern.h"
 
@@ -44,7 +43,7 @@ bool substituteHeight(Tokens& tokens, std::uint32_t height, bool& usesHeight) {
 }
 
 std::string fromBottom(std::int64_t pixelsAbove) {
-    const std::string variable(screenHeightVariable);
+    std::string variable(screenHeightVariable);
     if (pixelsAbove == 0)
         return variable;
     return variable + (pixelsAbove > 0 ? "-" : "+") + std::to_string(std::abs(pixelsAbove));
@@ -67,11 +66,13 @@ std::string foldGeometry(std::string_view text, std::uint32_t height) {
     Tokens tokens = tokenise(text);
     if (tokens.empty())
         return std::string(text);
-    const std::string plain = joined(tokens);
-    if (tokens.size() < fewestTokens || tokens.size() > maxExpressionTokens)
+    std::string plain = joined(tokens);
+    if (tokens.size() < fewestTokens)
         return plain;
     if (isOperator(tokens.front()))
         tokens.insert(tokens.begin(), "0");
+    if (tokens.size() > maxExpressionTokens)
+        return plain;
     bool usesHeight = false;
     if (!substituteHeight(tokens, height, usesHeight))
         return plain;

@@ -49,7 +49,6 @@ void classifyParts(UnlockerData& unlocker, ImageRules& rules) {
     for (auto& part : parts)
         part = classify(std::move(part), rules);
     unlocker.setChildren(std::move(parts));
-    unlocker.collectPoints();
 }
 
 template <typename Item>
@@ -74,10 +73,8 @@ LockDesign::LockDesign(LayoutElements elements, std::uint32_t height)
     constexpr int bothKinds = 3;
     if (unlockMode() == bothKinds) {
         ImageRules partRules;
-        for (auto& element : _elements) {
-            if (auto* unlocker = dynamic_cast<UnlockerData*>(element.get()))
-                classifyParts(*unlocker, partRules);
-        }
+        for (UnlockerData* unlocker : unlockers())
+            classifyParts(*unlocker, partRules);
     }
     findElements();
 }
@@ -173,7 +170,7 @@ bool LockDesign::settleOne() {
         if (!isImage(element))
             continue;
         const ImageKind kind = rules.next(element);
-        if (kind == ImageKind::clock && isDecoration(index) && firstOfClock) {
+        if (kind != ImageKind::decoration && isDecoration(index) && firstOfClock) {
             rotateTo(_elements, index, *firstOfClock);
             return true;
         }
@@ -199,8 +196,12 @@ std::optional<std::size_t> LockDesign::nextDigit(std::size_t index) const {
 }
 
 const AmazingChild* LockDesign::find(const ElementPath& path) const {
-    const LayoutElements* level = &_elements;
-    const AmazingChild* found = nullptr;
+    return findIn(_elements, path);
+}
+
+AmazingChild* LockDesign::findIn(const LayoutElements& elements, const ElementPath& path) {
+    const LayoutElements* level = &elements;
+    AmazingChild* found = nullptr;
     for (const std::size_t index : path) {
         if (index >= level->size())
             return nullptr;
@@ -226,9 +227,8 @@ const AmazingChild* LockDesign::text(const std::string& src) const {
 }
 
 const UnlockerData* LockDesign::unlocker(UnlockerKind kind) const {
-    for (const auto& element : _elements) {
-        const auto* unlocker = dynamic_cast<const UnlockerData*>(element.get());
-        if (unlocker && unlocker->unlockerKind() == static_cast<int>(kind))
+    for (const UnlockerData* unlocker : unlockers()) {
+        if (unlocker->unlockerKind() == static_cast<int>(kind))
             return unlocker;
     }
     return nullptr;
@@ -248,18 +248,37 @@ std::vector<std::size_t> LockDesign::decorations() const {
     return indexes;
 }
 
-std::vector<const AmazingChild*> LockDesign::unlockerParts() const {
-    std::vector<const AmazingChild*> parts;
+std::vector<UnlockerData*> LockDesign::unlockers() const {
+    std::vector<UnlockerData*> found;
     for (const UnlockerKind kind : {UnlockerKind::inPlace, UnlockerKind::moving}) {
         for (const auto& element : _elements) {
-            const auto* unlocker = dynamic_cast<const UnlockerData*>(element.get());
-            if (!unlocker || unlocker->unlockerKind() != static_cast<int>(kind))
-                continue;
-            for (const auto& part : unlocker->children())
-                parts.push_back(part.get());
+            auto* unlocker = dynamic_cast<UnlockerData*>(element.get());
+            if (unlocker && unlocker->unlockerKind() == static_cast<int>(kind))
+                found.push_back(unlocker);
         }
     }
+    return found;
+}
+
+std::vector<const AmazingChild*> LockDesign::unlockerParts() const {
+    std::vector<const AmazingChild*> parts;
+    for (const UnlockerData* unlocker : unlockers()) {
+        for (const auto& part : unlocker->children())
+            parts.push_back(part.get());
+    }
     return parts;
+}
+
+void LockDesign::lookUpWallpaperFiles(const std::string& directory) {
+    const auto lookUp = [&](const LayoutElements& elements) {
+        for (const auto& element : elements) {
+            if (auto* wallpaper = dynamic_cast<LockWallPaper*>(element.get()))
+                wallpaper->lookUpFiles(directory);
+        }
+    };
+    lookUp(_elements);
+    for (const UnlockerData* unlocker : unlockers())
+        lookUp(unlocker->children());
 }
 
 int LockDesign::unlockMode() const {

@@ -82,7 +82,8 @@ public:
     [[nodiscard]] const AmazingChild* find(const ElementPath& path) const;
     [[nodiscard]] ElementKind kindOf(const AmazingChild& element) const;
     [[nodiscard]] const LockWallPaper* wallpaper() const { return _wallpaper; }
-    [[nodiscard]] LockWallPaper* wallpaper() { return _wallpaper; }
+    /// Lets every wallpaper look which of its pictures are in a directory.
+    void lookUpWallpaperFiles(const std::string& directory);
     [[nodiscard]] const TimeAboutImage* clockDigit(ClockDigit digit) const;
     [[nodiscard]] const TimeAboutImage* clockPicture() const { return _clockPicture; }
     [[nodiscard]] const AmazingChild* musicControl() const { return _musicControl; }
@@ -103,14 +104,17 @@ public:
 
     // Any element.
 
-    /// Where an element lies; nothing for one whose place isn't plain numbers, and for sizes that are missing.
+    /// Where an element lies, with 0 for what it doesn't say; nothing if its place can't be told.
     [[nodiscard]] std::optional<DesignRect> rectOf(const ElementPath& path) const;
-    /// Moves and resizes an element. What hung on the lower edge and what followed the hand still does.
+    /// Moves and resizes an element. What hung on the lower edge and what followed the hand still does. Sides lie
+    /// within 100,000 pixels of the corner.
     [[nodiscard]] int setRect(const ElementPath& path, const DesignRect& rect);
-    /// Sets attributes; an empty value removes one. Refused if the element would become another kind.
+    /// Sets attributes; an empty value removes one. Refused if the element would become another kind, and for a `src`
+    /// of a picture that names no bare files.
     [[nodiscard]] int setAttributes(const ElementPath& path, const AmazingChild::Attributes& attributes);
-    /// Gives a decoration other children, such as its animations and their frames.
-    [[nodiscard]] int setDecorationChildren(std::size_t index, const std::vector<AmazingChild>& children);
+    /// Gives an element other children, such as a decoration its animations with their frames, or an unlocker the path
+    /// to its end. Refused for more than 100 levels, and as `setAttributes`.
+    [[nodiscard]] int setChildren(const ElementPath& path, const std::vector<AmazingChild>& children);
     /// Paints an element in another place of the order. A decoration that lands among the clock's pictures goes below
     /// them where a reader would otherwise take it for one of them.
     [[nodiscard]] int moveElement(std::size_t from, std::size_t to);
@@ -177,10 +181,12 @@ public:
     void addSmartIcon();
 
 private:
-    [[nodiscard]] AmazingChild* child(const ElementPath& path);
+    [[nodiscard]] static AmazingChild* findIn(const LayoutElements& elements, const ElementPath& path);
     [[nodiscard]] std::size_t indexOf(const AmazingChild* element) const;
     [[nodiscard]] bool isDecoration(std::size_t index) const;
-    /// Puts an element in front of the one at `index`, as the class that stands for it.
+    /// Those of the two kinds, the ones in place first.
+    [[nodiscard]] std::vector<UnlockerData*> unlockers() const;
+    /// Puts an element in front of the one at `index`.
     void insert(std::size_t index, std::unique_ptr<AmazingChild> element);
     void append(AmazingChild element);
     void erase(std::size_t index);
@@ -188,10 +194,9 @@ private:
     [[nodiscard]] std::size_t clockEnd() const;
     [[nodiscard]] std::string freeUnlockerName() const;
     [[nodiscard]] int setPoint(UnlockerKind kind, bool isStart, const DesignRect& rect);
-    /// Changes attributes, and takes that back if a top-level element became another kind.
     [[nodiscard]] int tryChange(const ElementPath& path, const AmazingChild::Attributes& attributes);
-    /// Whether a reader would tell the same kinds of images.
-    [[nodiscard]] bool kindsAgree() const;
+    /// Whether a top-level element, and every image, is still what it was.
+    [[nodiscard]] bool isStill(std::size_t index, ElementKind kind, int unlockerKind) const;
     /// Restores the order in which a reader tells the same kinds, and finds the special elements again.
     void settle();
     /// Moves one element that a reader would take for another kind; false if there is none.

@@ -29,8 +29,9 @@ inline constexpr std::string_view tallPrefix = "2160_";
 /// more than it allows.
 [[nodiscard]] std::size_t countNames(std::string_view src);
 
-/// The names that the tokens stand for, in counting order with the last digit running fastest. The hours 24 to 29 are
-/// left out. Nothing if they are refused.
+/// The names that the tokens stand for, in counting order with the last digit running fastest. With the first
+/// digit of the hour and any other variable, a 2 isn't followed by what the second digit's 4 to 9 would make of the
+/// name: so the hours 24 to 29 are left out. Nothing if they are refused.
 [[nodiscard]] std::optional<std::vector<std::string>> expandTokens(const std::vector<std::string>& tokens);
 
 /// The names of a `src`, or nothing if it is refused. One without any quote and without a digit of the clock is a name

@@ -15,6 +15,8 @@ namespace zdt {
 namespace {
 
 constexpr const char* propertiesFile = "ext.properties";
+/// A file name with something besides dots in it.
+constexpr const char* bareNamePattern = "[^/]*[^/.][^/]*";
 constexpr const char* livepaperFile = "unlock/livepaper.xml";
 
 /// What a block of a video is, by the name of the node that holds it.
@@ -30,8 +32,14 @@ VideoRole roleOf(const ResNode& owner) {
     return {owner.parent() ? dynamicLockDirectory(*owner.parent()) : std::string(), "unlockVideo", defaultLockVideo};
 }
 
-KeyValues readProperties(const std::string& directory) {
-    return directory.empty() ? KeyValues() : readKeyValueFile(directory + propertiesFile);
+/// What `ext.properties` says. An imported theme can't name a file outside its own directory: such a name counts as
+/// none.
+KeyValues readProperties(const std::string& directory, const VideoRole& role) {
+    KeyValues properties = directory.empty() ? KeyValues() : readKeyValueFile(directory + propertiesFile);
+    const auto named = properties.find(role.key);
+    if (named == properties.end() || !isBareFileName(named->second))
+        properties[role.key] = role.defaultFile;
+    return properties;
 }
 
 bool lockScreenIsVideo(ResNode& node) {
@@ -51,12 +59,11 @@ VideoUnlockConfig::VideoUnlockConfig(ResNode* parent)
     : ResNode(parent, typeMask::everywhere, propertiesFile) {
     const VideoRole role = roleOf(*parent);
     setPath(role.directory);
-    KeyValues properties{{role.key, role.defaultFile}, {"video_mode", "1"}};
-    for (const auto& [key, value] : readProperties(nodeDirectory()))
-        properties[key] = value;
+    KeyValues properties = readProperties(nodeDirectory(), role);
+    properties.try_emplace("video_mode", "1");
     for (const auto& [key, value] : properties) {
         // The file can hold neither an empty value nor a line break.
-        adopt(std::make_unique<TextResNode>(key, value)).setRegex(".+");
+        adopt(std::make_unique<TextResNode>(key, value)).setRegex(key == role.key ? bareNamePattern : ".+");
     }
 }
 
@@ -76,11 +83,7 @@ VideoUnlockImageSet::VideoUnlockImageSet(ResNode* parent)
     : ResNode(parent, typeMask::everywhere, "image_set") {
     const VideoRole role = roleOf(*parent);
     setPath(role.directory);
-    const KeyValues properties = readProperties(nodeDirectory());
-    const auto named = properties.find(role.key);
-    // An imported theme can't name a file outside its own directory.
-    const bool isUsable = named != properties.end() && isBareFileName(named->second);
-    auto& video = adopt(std::make_unique<FileResNode>(isUsable ? named->second : role.defaultFile));
+    auto& video = adopt(std::make_unique<FileResNode>(readProperties(nodeDirectory(), role).at(role.key)));
     video.setPath(role.directory);
     video.setMaxBytes(maxVideoBytes);
     video.loadFromTheme();

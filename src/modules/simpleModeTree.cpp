@@ -85,8 +85,8 @@ private:
 Planner::Planner(const Leaves& leaves)
     : _leaves(leaves) {
     for (std::size_t block = 0; block < blocks.size(); ++block) {
-        for (const ResNode* leaf : leaves[block])
-            _names[block].try_emplace(leaf->name(), _names[block].size());
+        for (std::size_t place = 0; place < leaves[block].size(); ++place)
+            _names[block].try_emplace(leaves[block][place]->name(), place);
     }
 }
 

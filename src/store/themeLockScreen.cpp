@@ -72,9 +72,12 @@ int ThemeResource::setLockVideo(const std::string& file) {
 void ThemeResource::takePicturesFromTemplate() {
     const std::string templatePath = locateTemplate(_rootDirectory, version());
     for (const auto& [path, code] : _amazingNode->missingFiles()) {
+        const std::string name = fileName(path);
         const std::string file = templateFile(templatePath, path);
-        if (!templatePath.empty() && isPlainFile(file))
-            static_cast<void>(copyFile(file, _resTree->path() + path));
+        const std::string target = _amazingNode->pictureFile(name);
+        // A layout may name what lies elsewhere in the theme; that is no picture to be had here.
+        if (target == _resTree->path() + path && isBareFileName(name) && !isTaken(target) && isPlainFile(file))
+            static_cast<void>(copyFile(file, target));
     }
 }
 
@@ -92,12 +95,22 @@ int ThemeResource::setLockElementAttributes(const ElementPath& path,
     return changeDesign([&](LockDesign& design) { return design.setAttributes(path, attributes); });
 }
 
+int ThemeResource::setLockElementChildren(const ElementPath& path, const std::vector<AmazingChild>& children) {
+    return changeDesign([&](LockDesign& design) { return design.setChildren(path, children); });
+}
+
 int ThemeResource::moveLockElement(std::size_t from, std::size_t to) {
     return changeDesign([&](LockDesign& design) { return design.moveElement(from, to); });
 }
 
 int ThemeResource::removeLockElement(std::size_t index) {
-    return changeDesign([&](LockDesign& design) { return design.removeElement(index); });
+    return changeDesign([&](LockDesign& design) {
+        const bool hadWallpaper = design.wallpaper() != nullptr;
+        const int code = design.removeElement(index);
+        if (hadWallpaper && !design.wallpaper())
+            setHasLockWallpaper(false);
+        return code;
+    });
 }
 
 int ThemeResource::changeDesign(const std::function<int(LockDesign&)>& change) {
@@ -108,8 +121,20 @@ int ThemeResource::importDesignPicture(const std::string& file,
                                        const std::function<int(LockDesign&, const std::string&)>& use) {
     return changeDesign([&](LockDesign& design) {
         std::string name;
-        const int code = _amazingNode->importPicture(file, name);
-        return code == returnCode::success ? use(design, name) : code;
+        if (const int code = _amazingNode->importPicture(file, name))
+            return code;
+        const int code = use(design, name);
+        const std::string copy = _amazingNode->pictureFile(name);
+        if (code != returnCode::success && copy != file)
+            static_cast<void>(removeFile(copy));
+        return code;
+    });
+}
+
+int ThemeResource::importLockPicture(const std::string& file, std::string& name) {
+    return importDesignPicture(file, [&](LockDesign& /*design*/, const std::string& imported) {
+        name = imported;
+        return returnCode::success;
     });
 }
 
@@ -125,43 +150,59 @@ int ThemeResource::setDecorationPicture(std::size_t index, const std::string& fi
         file, [&](LockDesign& design, const std::string& name) { return design.setDecorationFile(index, name); });
 }
 
-int ThemeResource::setDecorationChildren(std::size_t index, const std::vector<AmazingChild>& children) {
-    return changeDesign([&](LockDesign& design) { return design.setDecorationChildren(index, children); });
-}
-
 int ThemeResource::removeDecoration(std::size_t index) {
     return changeDesign([&](LockDesign& design) { return design.removeDecoration(index); });
 }
 
 int ThemeResource::addLockWallpaper(const WallpaperPictures& pictures) {
     std::vector<WallpaperPictures> all = _amazingNode->wallpaperPictures();
+    const auto interval = all.empty() ? WallpaperInterval::minute : _amazingNode->wallpaperInterval();
     all.push_back(pictures);
-    return _amazingNode->setWallpaperPictures(all, lockWallpaperInterval());
+    return changeDesign([&](LockDesign& /*design*/) {
+        return interval ? _amazingNode->setWallpaperPictures(all, *interval) : designCode::notAllowed;
+    });
 }
 
 int ThemeResource::replaceLockWallpaper(std::size_t row, const WallpaperPictures& pictures) {
-    std::vector<WallpaperPictures> all = _amazingNode->wallpaperPictures();
-    if (row >= all.size())
-        return designCode::unknownId;
-    all[row] = pictures;
-    return _amazingNode->setWallpaperPictures(all, lockWallpaperInterval());
+    return changeDesign([&](LockDesign& /*design*/) {
+        const std::vector<WallpaperPictures> all = _amazingNode->wallpaperPictures();
+        if (row >= all.size() || (all[row].file2160.empty() && !pictures.file2160.empty()))
+            return designCode::unknownId;
+        std::vector<std::pair<std::string, std::string>> given{{all[row].file1920, pictures.file1920},
+                                                               {all[row].file2160, pictures.file2160}};
+        std::erase_if(given, [](const auto& each) { return each.second.empty(); });
+        for (const auto& [standing, file] : given) {
+            if (const int code = _amazingNode->checkReplacement(fileName(standing), file))
+                return code;
+        }
+        for (const auto& [standing, file] : given) {
+            if (const int code = _amazingNode->replacePicture(fileName(standing), file))
+                return code;
+        }
+        return returnCode::success;
+    });
 }
 
 int ThemeResource::removeLockWallpaper(std::size_t row) {
-    std::vector<WallpaperPictures> all = _amazingNode->wallpaperPictures();
-    if (row >= all.size())
-        return designCode::unknownId;
-    all.erase(all.begin() + static_cast<std::ptrdiff_t>(row));
-    return _amazingNode->setWallpaperPictures(all, lockWallpaperInterval());
+    return changeDesign([&](LockDesign& /*design*/) {
+        std::vector<WallpaperPictures> all = _amazingNode->wallpaperPictures();
+        if (row >= all.size())
+            return designCode::unknownId;
+        const auto interval = _amazingNode->wallpaperInterval();
+        all.erase(all.begin() + static_cast<std::ptrdiff_t>(row));
+        return interval ? _amazingNode->setWallpaperPictures(all, *interval) : designCode::notAllowed;
+    });
 }
 
 int ThemeResource::setLockWallpaperInterval(WallpaperInterval interval) {
-    const std::vector<WallpaperPictures> all = _amazingNode->wallpaperPictures();
-    return all.empty() ? designCode::missingElement : _amazingNode->setWallpaperPictures(all, interval);
+    return changeDesign([&](LockDesign& /*design*/) {
+        const std::vector<WallpaperPictures> all = _amazingNode->wallpaperPictures();
+        return all.empty() ? designCode::missingElement : _amazingNode->setWallpaperPictures(all, interval);
+    });
 }
 
-WallpaperInterval ThemeResource::lockWallpaperInterval() const {
-    return _amazingNode->wallpaperInterval().value_or(WallpaperInterval::minute);
+void ThemeResource::setHasLockWallpaper(bool has) {
+    _amazingNode->setHasWallpaper(has);
 }
 
 int ThemeResource::addLockClock() {

@@ -227,21 +227,31 @@ public:
     [[nodiscard]] int setLockElementRect(const ElementPath& path, const DesignRect& rect);
     [[nodiscard]] int setLockElementAttributes(const ElementPath& path,
                                                const std::map<std::string, std::string>& attributes);
+    [[nodiscard]] int setLockElementChildren(const ElementPath& path, const std::vector<AmazingChild>& children);
+    /// Copies a picture into the design, for an element that is made next, such as a frame of an animation. One that no
+    /// element names goes when the layout is written.
+    /// @param name receives its name there
+    [[nodiscard]] int importLockPicture(const std::string& file, std::string& name);
     [[nodiscard]] int moveLockElement(std::size_t from, std::size_t to);
     [[nodiscard]] int removeLockElement(std::size_t index);
 
     [[nodiscard]] int addDecoration(const std::string& file, const DesignRect& rect,
                                     const std::map<std::string, std::string>& attributes, std::size_t& index);
     [[nodiscard]] int setDecorationPicture(std::size_t index, const std::string& file);
-    [[nodiscard]] int setDecorationChildren(std::size_t index, const std::vector<AmazingChild>& children);
     [[nodiscard]] int removeDecoration(std::size_t index);
 
-    /// -9 once the interval can show no more.
+    // Pictures are added to and removed from a wallpaper that changes by an interval; -9 for any other until its
+    // interval is set.
+
+    /// -9 once the interval can show no more. The first makes the wallpaper, which changes every minute.
     [[nodiscard]] int addLockWallpaper(const WallpaperPictures& pictures);
+    /// Replaces those of a pair that are given, at once.
     [[nodiscard]] int replaceLockWallpaper(std::size_t row, const WallpaperPictures& pictures);
     /// -9 for the last.
     [[nodiscard]] int removeLockWallpaper(std::size_t row);
     [[nodiscard]] int setLockWallpaperInterval(WallpaperInterval interval);
+    /// Whether the lock screen shows a wallpaper of its own; kept in the settings.
+    void setHasLockWallpaper(bool has);
 
     [[nodiscard]] int addLockClock();
     [[nodiscard]] int removeLockClock();
@@ -306,7 +316,6 @@ private:
     /// Copies the pictures that the design lacks from the template, as far as that has them.
     void takePicturesFromTemplate();
     [[nodiscard]] bool writeLockScreen();
-    [[nodiscard]] WallpaperInterval lockWallpaperInterval() const;
     /// -1 for a theme whose design is missing or can't be read.
     [[nodiscard]] int changeDesign(const std::function<int(LockDesign&)>& change);
     [[nodiscard]] int importDesignPicture(const std::string& file,

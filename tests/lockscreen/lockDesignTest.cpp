@@ -144,6 +144,17 @@ TEST(LockDesign, DecorationNeverBecomesThePictureOfTheClock) {
     expectSameWhenReadBack(design);
 }
 
+TEST(LockDesign, DecorationOfAnyKindOfFileStaysOne) {
+    LockDesign design = designOf(hour1 + hour2);
+    std::size_t index = 99;
+    ASSERT_EQ(design.addDecoration("a.jpg", {1, 1, 5, 5}, {}, index), 0);
+    ASSERT_EQ(design.setChargePicture(3, "c.jpg", {}), 0);
+    EXPECT_EQ(kinds(design), "ddhH");
+    EXPECT_EQ(design.elements()[index]->src(), "a.jpg");
+    EXPECT_TRUE(design.chargePicture(3));
+    expectSameWhenReadBack(design);
+}
+
 TEST(LockDesign, ClockPictureStaysAmongItsDigits) {
     LockDesign design = designOf(picture + hour1 + hour2 + colon + min1 + min2);
     for (const std::size_t to : {0U, 5U, 1U, 5U}) {
@@ -162,7 +173,8 @@ TEST(LockDesign, ClockPictureStaysAmongItsDigits) {
 
 TEST(LockDesign, ChangeThatMakesAnElementAnotherKindIsRefused) {
     const std::string wallpaper = "<image " + fullScreen + "h='1920' src=\"'b_'+system.time.min1+'.jpg'\"/>";
-    LockDesign design = designOf(wallpaper + picture + hour1 + "<button name='button_music_show' x='1'/>");
+    const std::string digit = "<image x='10' y='208' w='100' h='200' src=\"'n_'+system.time.hour1+'.png'\"/>";
+    LockDesign design = designOf(wallpaper + picture + digit + "<button name='button_music_show' x='1'/>");
     const std::string before = kinds(design);
     EXPECT_EQ(design.setRect({0}, {0, 0, 1080, 1000}), designCode::notAllowed);
     EXPECT_EQ(design.setRect({2}, {0, 0, 1080, 1920}), designCode::notAllowed);
@@ -194,6 +206,8 @@ TEST(LockDesign, PlaceKeepsHangingOnTheLowerEdge) {
     EXPECT_EQ(design.elements()[0]->attribute("y"), "system.screen_height-200+system.u_moveY");
     design.setHeight(1920);
     EXPECT_EQ(design.rectOf({0}), (DesignRect{5, 1720, 6, 7}));
+    EXPECT_EQ(designOf("<smarticon y='240'/>").rectOf({0}), (DesignRect{0, 240, 0, 0}));
+    EXPECT_EQ(designOf("<text x='a'/>").rectOf({0}), std::nullopt);
     EXPECT_EQ(design.rectOf({1}), std::nullopt);
     EXPECT_EQ(design.rectOf({}), std::nullopt);
 }
@@ -251,7 +265,11 @@ TEST(LockDesign, MovingUnlockerCannotEndInItsStart) {
     LockDesign design = designOf("<unlocker><StartPoint x='0' y='0' w='5' h='5'/>"
                                  "<EndPoint x='9' y='0' w='5' h='5'/></unlocker>");
     EXPECT_EQ(design.setEndPoint(UnlockerKind::moving, {0, 0, 5, 5}), designCode::notAllowed);
+    EXPECT_EQ(design.setRect({0, 1}, {0, 0, 5, 5}), designCode::notAllowed);
+    EXPECT_EQ(design.setAttributes({0, 1}, {{"x", "0"}}), designCode::notAllowed);
+    EXPECT_EQ(design.setChildren({0}, {AmazingChild("StartPoint")}), designCode::notAllowed);
     EXPECT_EQ(design.rectOf({0, 1}), (DesignRect{9, 0, 5, 5}));
+    EXPECT_EQ(design.unlockMode(), 2);
 }
 
 TEST(LockDesign, WallpaperIsMadeAtTheBackAndChangesItsSource) {
@@ -273,10 +291,12 @@ TEST(LockDesign, DecorationTakesAnimationsThatXmlCanHold) {
     LockDesign design = designOf(picture + hour1);
     AmazingChild frames("animation", {{"type", "frame"}});
     frames.addChild(std::make_unique<AmazingChild>("frame", AmazingChild::Attributes{{"src", "f.png"}}));
-    EXPECT_EQ(design.setDecorationChildren(0, {frames}), 0);
+    EXPECT_EQ(design.setChildren({0}, {frames}), 0);
     EXPECT_EQ(readBack(design).find({0, 0, 0})->src(), "f.png");
-    EXPECT_EQ(design.setDecorationChildren(0, {AmazingChild("no name")}), designCode::notAllowed);
-    EXPECT_EQ(design.setDecorationChildren(1, {frames}), designCode::unknownId);
+    EXPECT_EQ(design.setChildren({0}, {AmazingChild("no name")}), designCode::notAllowed);
+    EXPECT_EQ(design.setChildren({0}, {AmazingChild("frame", {{"src", "../f.png"}})}), designCode::notAllowed);
+    EXPECT_EQ(design.setAttributes({0}, {{"src", "../a.png"}}), designCode::notAllowed);
+    EXPECT_EQ(design.setChildren({5}, {frames}), designCode::unknownId);
     EXPECT_EQ(design.elements()[0]->children().size(), 1U);
 }
 

@@ -252,8 +252,8 @@ TEST_F(UnlockNodeTest, PropertiesNameTheVideo) {
         {"extra=1\n", "extra", "1", "unlock.mp4"},
         {"video_mode=2\n", "video_mode", "2", "unlock.mp4"},
         {"wallpaper_video=w.mp4\n", "wallpaper_video", "w.mp4", "unlock.mp4"},
-        {"unlockVideo=../../../x.mp4\n", "unlockVideo", "../../../x.mp4", "unlock.mp4"},
-        {"unlockVideo=..\n", "unlockVideo", "..", "unlock.mp4"},
+        {"unlockVideo=../../../x.mp4\n", "unlockVideo", "unlock.mp4", "unlock.mp4"},
+        {"unlockVideo=..\n", "unlockVideo", "unlock.mp4", "unlock.mp4"},
     };
     for (const auto& [file, key, value, video] : cases) {
         SCOPED_TRACE(file);

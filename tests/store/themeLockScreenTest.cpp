@@ -267,5 +267,55 @@ TEST_F(LockScreenTest, FullFormGoesWhenTheDesignIsSavedForAnotherGeneration) {
     EXPECT_EQ(layout().find("system.screen_height"), std::string::npos);
 }
 
+TEST_F(LockScreenTest, NameThatLeadsOutOfTheDesignIsNeverWrittenTo) {
+    store.create("T");
+    store.write("res/T/unlock/layout-hdpi/layout1.xml",
+                "<layout><image src='../../description.xml'/><image src='../theme.xml'/></layout>");
+    ASSERT_TRUE(removeFile(unlock("theme.xml")));
+    store.write("res/T/description.xml", "<ZdTheme><title>Mine</title></ZdTheme>");
+    auto theme = store.open("T");
+    ASSERT_EQ(theme->addLockClock(), 0);
+    ASSERT_EQ(theme->addMusicControl(), 0);
+    EXPECT_EQ(readFile(store.path("res/T/description.xml")), "<ZdTheme><title>Mine</title></ZdTheme>");
+    EXPECT_FALSE(pathExists(unlock("theme.xml")));
+}
+
+TEST_F(LockScreenTest, RefusedOperationLeavesNoPicture) {
+    auto theme = store.create("T");
+    const Names pictures = namesIn(unlock("drawable-hdpi"));
+    std::size_t index = 0;
+    EXPECT_EQ(theme->setDecorationPicture(9999, png("a.png")), -6);
+    EXPECT_EQ(theme->addDecoration(png("a.png"), {0, 0, -1, 0}, {}, index), -9);
+    EXPECT_EQ(namesIn(unlock("drawable-hdpi")), pictures);
+    std::string name;
+    ASSERT_EQ(theme->importLockPicture(png("frame.9.png"), name), 0);
+    EXPECT_EQ(name, "frame.9.png");
+    EXPECT_EQ(theme->setLockElementChildren({0}, {AmazingChild("frame", {{"src", name}})}), 0);
+    EXPECT_TRUE(theme->applyNode(designBlock));
+    EXPECT_TRUE(hasPicture(name));
+}
+
+TEST_F(LockScreenTest, WallpaperOfAnotherRhythmIsReplacedInItsPlace) {
+    store.create("T");
+    store.write("res/T/unlock/layout-hdpi/layout1.xml",
+                "<layout><image x='0' y='0' w='1080' h='2160' src=\"'system.screen_height'+'h'+system.time.hour1+"
+                "system.time.hour2+'.jpg'\"/></layout>");
+    for (const char* name : {"h00.jpg", "h01.jpg", "2160_h00.jpg", "2160_h01.jpg"})
+        store.write(std::string("res/T/unlock/drawable-hdpi/") + name, jpegHeader(1080, 1920) + name[0]);
+    auto theme = store.open("T");
+    EXPECT_EQ(marks(*theme), "h2h2");
+    EXPECT_EQ(theme->replaceLockWallpaper(1, {{}, jpeg("x.jpg", 'x')}), 0);
+    EXPECT_EQ(theme->replaceLockWallpaper(0, {jpeg("y.jpg", 'y'), png("p.png")}), -21);
+    EXPECT_EQ(marks(*theme), "h2hx");
+    EXPECT_EQ(theme->addLockWallpaper({jpeg("x.jpg", 'x'), jpeg("x.jpg", 'x')}), -9);
+    EXPECT_EQ(theme->removeLockWallpaper(0), -9);
+    EXPECT_EQ(theme->setLockWallpaperInterval(WallpaperInterval::hour), 0);
+    EXPECT_EQ(theme->removeLockWallpaper(0), 0);
+    EXPECT_EQ(marks(*theme), "hx");
+    EXPECT_TRUE(theme->amazingNode().hasWallpaper());
+    EXPECT_EQ(theme->removeLockElement(0), 0);
+    EXPECT_FALSE(theme->amazingNode().hasWallpaper());
+}
+
 } // namespace
 } // namespace zdt
