@@ -1,0 +1,34 @@
+#include "lockscreen/geometry.h"
+
+#include "input.h"
+
+#include <array>
+
+namespace zdt {
+namespace {
+
+/// Where an element may be put, and then lies.
+constexpr std::array<int, 7> places{0, 910, 911, 1920, 2160, 100000, -100000};
+
+void check(const std::string& text, std::uint32_t height) {
+    const std::string folded = foldGeometry(text, height);
+    ZDT_FUZZ_CHECK(foldGeometry(folded, height) == folded);
+    const std::optional<int> pixel = pixelOf(text, height);
+    ZDT_FUZZ_CHECK(pixelOf(folded, height) == pixel);
+    for (const int place : places)
+        ZDT_FUZZ_CHECK(pixelOf(movedTo(text, place, height), height) == place);
+    if (pixel && pixelOf(fixedPosition(text, height), height))
+        ZDT_FUZZ_CHECK(pixelOf(fixedPosition(text, height), height) == pixel);
+    if (pixel)
+        ZDT_FUZZ_CHECK(pixelOf(anchoredPosition(text, height), height) == pixel);
+}
+
+} // namespace
+} // namespace zdt
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string text(zdt::fuzz::textOf(data, size));
+    zdt::check(text, 1920);
+    zdt::check(text, 2160);
+    return 0;
+}
