@@ -27,6 +27,18 @@ bool hasFewAttributes(std::string_view text) {
     return true;
 }
 
+/// The text with each carriage return as a character reference: a reader makes any other one a line feed. They come
+/// from a reference themselves, and stand in texts and values alone.
+std::string withReferences(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (std::size_t end = text.find('\r'); end != std::string_view::npos; end = text.find('\r')) {
+        result.append(text.substr(0, end)).append("&#13;");
+        text.remove_prefix(end + 1);
+    }
+    return result.append(text);
+}
+
 } // namespace
 
 bool loadXml(tinyxml2::XMLDocument& document, const std::string& path) {
@@ -57,8 +69,9 @@ bool DamagedXml::keepFrom(const std::string& path) {
 }
 
 bool saveXml(tinyxml2::XMLDocument& document, const std::string& path) {
-    AtomicFile file(path);
-    return file.isOpen() && document.SaveFile(file.stream()) == tinyxml2::XML_SUCCESS && file.commit();
+    tinyxml2::XMLPrinter printer;
+    document.Print(&printer);
+    return writeFile(path, withReferences({printer.CStr(), static_cast<std::size_t>(printer.CStrSize()) - 1}));
 }
 
 tinyxml2::XMLElement& startXml(tinyxml2::XMLDocument& document, const std::string& rootName) {

@@ -48,6 +48,18 @@ TEST(XmlFile, WhatIsNoDocumentIsRefusedAndLeavesAnEmptyOne) {
     EXPECT_STREQ(document.RootElement()->Name(), "a");
 }
 
+TEST(XmlFile, CarriageReturnIsWrittenSoThatItIsReadBack) {
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a.xml", "<a b='1&#13;2&#13;&#10;3'>4&#xd;&amp;5\r\n6</a>");
+    for (int time = 0; time < 2; ++time) {
+        tinyxml2::XMLDocument document;
+        ASSERT_TRUE(loadXml(document, path));
+        EXPECT_TRUE(std::string(document.RootElement()->Attribute("b")) == "1\r2\r\n3");
+        EXPECT_TRUE(std::string(document.RootElement()->GetText()) == "4\r&5\n6");
+        EXPECT_TRUE(saveXml(document, path));
+    }
+}
+
 TEST(XmlFile, DocumentIsWrittenWithDeclarationAndReadBack) {
     const TemporaryFolder folder;
     const std::string path = folder.path("theme.xml");
