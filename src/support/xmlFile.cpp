@@ -3,9 +3,12 @@
 #include "support/atomicFile.h"
 #include "support/files.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace zdt {
 
@@ -14,17 +17,44 @@ namespace {
 constexpr std::uint64_t maxXmlBytes = 16 * 1024 * 1024;
 constexpr int maxAttributes = 1000;
 
+/// The place behind the next `end`; the text's size without one.
+std::size_t behind(std::string_view text, std::string_view end, std::size_t from) {
+    const std::size_t place = text.find(end, from);
+    return place == std::string_view::npos ? text.size() : place + end.size();
+}
+
+/// The place of a tag's end. Counts the quoted values on the way, of which there are as many as attributes.
+std::size_t endOfTag(std::string_view text, std::size_t place, int& values) {
+    while (place < text.size() && text[place] != '>') {
+        const char quote = text[place++];
+        if (quote != '"' && quote != '\'')
+            continue;
+        ++values;
+        place = behind(text, {&quote, 1}, place);
+    }
+    return place;
+}
+
 /// Whether no element has more attributes than `maxAttributes`: the parser compares each with all before it, and a file
-/// of many would take minutes. Any "=" between "<" and ">" counts, so that text can only make the answer stricter.
+/// of many would take hours. The text is walked as the parser does, so that no value or comment can hide a tag.
 bool hasFewAttributes(std::string_view text) {
-    int count = 0;
-    for (const char c : text) {
-        if (c == '<' || c == '>')
-            count = 0;
-        else if (c == '=' && ++count > maxAttributes)
+    constexpr std::array<std::pair<std::string_view, std::string_view>, 4> notTags{
+        {{"!--", "-->"}, {"![CDATA[", "]]>"}, {"!", ">"}, {"?", "?>"}}};
+    for (std::size_t place = behind(text, "<", 0); place < text.size(); place = behind(text, "<", place)) {
+        const std::string_view rest = text.substr(place);
+        const auto* const other = std::find_if(notTags.begin(), notTags.end(),
+                                               [&](const auto& each) { return rest.starts_with(each.first); });
+        int values = 0;
+        place = other != notTags.end() ? behind(text, other->second, place + other->first.size())
+                                       : endOfTag(text, place, values);
+        if (values > maxAttributes)
             return false;
     }
     return true;
+}
+
+bool isReadable(std::string_view text) {
+    return text.size() <= maxXmlBytes && hasFewAttributes(text);
 }
 
 /// The text with each carriage return as a character reference: a reader makes any other one a line feed. They come
@@ -44,7 +74,7 @@ std::string withReferences(std::string_view text) {
 bool loadXml(tinyxml2::XMLDocument& document, const std::string& path) {
     document.Clear();
     const std::optional<std::string> text = readFile(path, maxXmlBytes);
-    if (text && hasFewAttributes(*text) && document.Parse(text->data(), text->size()) == tinyxml2::XML_SUCCESS &&
+    if (text && isReadable(*text) && document.Parse(text->data(), text->size()) == tinyxml2::XML_SUCCESS &&
         document.RootElement())
         return true;
     document.Clear();
@@ -71,7 +101,8 @@ bool DamagedXml::keepFrom(const std::string& path) {
 bool saveXml(tinyxml2::XMLDocument& document, const std::string& path) {
     tinyxml2::XMLPrinter printer;
     document.Print(&printer);
-    return writeFile(path, withReferences({printer.CStr(), static_cast<std::size_t>(printer.CStrSize()) - 1}));
+    const std::string text = withReferences({printer.CStr(), static_cast<std::size_t>(printer.CStrSize()) - 1});
+    return isReadable(text) && writeFile(path, text);
 }
 
 tinyxml2::XMLElement& startXml(tinyxml2::XMLDocument& document, const std::string& rootName) {

@@ -27,7 +27,8 @@ private:
     std::string _path;
 };
 
-/// Writes a document whole or not at all; the folder must exist.
+/// Writes a document whole or not at all; the folder must exist. False as well for one of more bytes or attributes than
+/// `loadXml` reads.
 [[nodiscard]] bool saveXml(tinyxml2::XMLDocument& document, const std::string& path);
 
 /// A new document's declaration and root element.
