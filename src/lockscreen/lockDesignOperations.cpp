@@ -142,7 +142,7 @@ int LockDesign::setAttributes(const ElementPath& path, const AmazingChild::Attri
 }
 
 int LockDesign::setDecorationChildren(std::size_t index, const std::vector<AmazingChild>& children) {
-    constexpr int deepest = 100;
+    constexpr int deepest = 96; // A document is read to a depth of 98, and two levels lie above.
     if (!isDecoration(index))
         return designCode::unknownId;
     AmazingChild::Children copies;

@@ -278,6 +278,18 @@ TEST(LockDesign, DecorationTakesAnimationsThatXmlCanHold) {
     EXPECT_EQ(design.setDecorationChildren(0, {AmazingChild("no name")}), designCode::notAllowed);
     EXPECT_EQ(design.setDecorationChildren(1, {frames}), designCode::unknownId);
     EXPECT_EQ(design.elements()[0]->children().size(), 1U);
+
+    auto deep = std::make_unique<AmazingChild>("a");
+    for (int level = 1; level < 96; ++level) {
+        auto outer = std::make_unique<AmazingChild>("a");
+        outer->addChild(std::move(deep));
+        deep = std::move(outer);
+    }
+    EXPECT_EQ(design.setDecorationChildren(0, {*deep}), 0);
+    expectSameWhenReadBack(design);
+    AmazingChild tooDeep("a");
+    tooDeep.addChild(std::move(deep));
+    EXPECT_EQ(design.setDecorationChildren(0, {tooDeep}), designCode::notAllowed);
 }
 
 TEST(LockDesign, AnyOrderOfOperationsLeavesADesignThatReadsTheSame) {
