@@ -22,7 +22,8 @@ bool standsWithoutBlanks(const std::string& text) {
 void check(const std::string& text, std::uint32_t height) {
     const std::string folded = foldGeometry(text, height);
     const std::optional<int> pixel = pixelOf(text, height);
-    if (standsWithoutBlanks(text)) {
+    const bool isBeyond32Bits = folded.starts_with(screenHeightVariable) && !splitPosition(folded);
+    if (standsWithoutBlanks(text) && !isBeyond32Bits) {
         ZDT_FUZZ_CHECK(foldGeometry(folded, height) == folded);
         ZDT_FUZZ_CHECK(pixelOf(folded, height) == pixel);
     }

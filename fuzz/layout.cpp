@@ -9,8 +9,8 @@
 namespace zdt {
 namespace {
 
-constexpr std::size_t maxSteps = 60;
-constexpr std::size_t maxElements = 200;
+constexpr std::size_t maxSteps = 24;
+constexpr std::size_t maxElements = 60;
 
 /// What a design is, for a reader.
 struct Summary {
