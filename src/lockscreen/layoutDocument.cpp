@@ -63,7 +63,8 @@ bool writeLayout(const std::string& path, const LayoutElements& elements) {
         if (tinyxml2::XMLElement* written = element->write(&document))
             root.InsertEndChild(written);
     }
-    return makePath(path) && saveXml(document, path);
+    LayoutBudget budget;
+    return fits(root, budget) && makePath(path) && saveXml(document, path);
 }
 
 FixedHeightForm::FixedHeightForm(const LayoutElements& elements, std::uint32_t height)

@@ -23,7 +23,8 @@ inline constexpr std::size_t maxLayoutNames = 200000;
 /// well formed, is larger or nests deeper than any layout, or has another root.
 [[nodiscard]] bool readLayout(const std::string& path, LayoutElements& elements);
 
-/// Writes the elements, making the folder. The file is written whole or not at all.
+/// Writes the elements, making the folder. The file is written whole or not at all; false as well for more elements or
+/// names than are read.
 [[nodiscard]] bool writeLayout(const std::string& path, const LayoutElements& elements);
 
 /// Rewrites the elements for a screen of one fixed height for as long as it lives: what counts from the lower edge

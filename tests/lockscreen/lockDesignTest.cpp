@@ -292,6 +292,29 @@ TEST(LockDesign, DecorationTakesAnimationsThatXmlCanHold) {
     EXPECT_EQ(design.setDecorationChildren(0, {tooDeep}), designCode::notAllowed);
 }
 
+TEST(LockDesign, MoreThanIsReadIsNotWrittenOverALayout) {
+    const TemporaryFolder folder;
+    const std::string path = folder.path("a.xml");
+    const std::string manyNames = "''+system.time.min2+system.time.min2+system.time.min2+system.time.min2";
+    const struct {
+        std::size_t frames;
+        std::string src;
+        bool isWritten;
+    } cases[] = {{0, "", true},
+                 {maxLayoutElements - 2, "", true},
+                 {maxLayoutElements - 1, "", false},
+                 {20, manyNames, true},
+                 {21, manyNames, false}};
+    for (const auto& [frames, src, isWritten] : cases) {
+        LayoutElements elements;
+        AmazingChild& animation = *elements.emplace_back(std::make_unique<AmazingChild>("animation"));
+        for (std::size_t index = 0; index < frames; ++index)
+            animation.addChild(std::make_unique<AmazingChild>("frame", AmazingChild::Attributes{{"src", src}}));
+        EXPECT_EQ(writeLayout(path, elements), isWritten) << frames;
+        EXPECT_TRUE(readLayout(path, elements)) << frames;
+    }
+}
+
 TEST(LockDesign, AnyOrderOfOperationsLeavesADesignThatReadsTheSame) {
     std::mt19937 random(7); // NOLINT: the same run each time
     const auto below = [&](std::size_t limit) { return random() % std::max<std::size_t>(limit, 1); };
