@@ -10,5 +10,6 @@ packages=(
     aapt # compiles every nine-patch picture of the templates
     ffmpeg # makes real videos for the tests, and ffprobe is the peer of their inspection
     libgif-dev # writes the GIFs of the tests
+    clang libclang-rt-14-dev # the compiler of the fuzz targets, with libFuzzer and the sanitizers
     zip unzip python3 # peers of the benchmarks, and the tests of the program as a whole
 )

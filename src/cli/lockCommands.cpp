@@ -4,6 +4,7 @@
 #include "lockscreen/pictureNames.h"
 #include "lockscreen/unlockConfigNode.h"
 #include "modules/themeNode.h"
+#include "support/pattern.h"
 
 #include <algorithm>
 #include <array>
@@ -63,7 +64,12 @@ Json describe(const LockDesign& design, const AmazingChild& element) {
 
 /// The element and its children as lines, each child further in.
 void addLines(const Json& element, const std::string& indent, std::vector<std::string>& lines) {
-    std::string line = indent + element["kind"].get<std::string>() + "\t" + element["name"].get<std::string>();
+    std::string line = indent + element["kind"].get<std::string>();
+    if (element.contains("charge"))
+        line += " (charge " + element["charge"].dump() + ")";
+    if (element.contains("unlockerKind"))
+        line += " (kind " + element["unlockerKind"].dump() + ")";
+    line += "\t" + element["name"].get<std::string>();
     for (const auto& [key, value] : element["attributes"].items())
         line += "\t" + key + "=" + value.get<std::string>();
     lines.push_back(std::move(line));
@@ -109,8 +115,12 @@ int setLockCommand(const Context& context, const std::string& name, const std::s
     requireListed(context, name);
     const ChangeLock lock(context);
     const auto theme = openListed(context, name);
-    if (const int code = theme->setLockScreenType(type))
-        throw Refusal(name, code);
+    if (!isKnownType(type) && !matchesPattern(type, "[a-z][a-z0-9_]*"))
+        throw Refusal(name,
+                      "\"" + type + "\" is no kind of lock screen (" + std::to_string(returnCode::notAllowed) + ")");
+    if (theme->setLockScreenType(type) != returnCode::success)
+        throw Refusal(name, "its lock screen couldn't be written, and is as it was (" +
+                                std::to_string(returnCode::copyFailed) + ")");
     if (!isKnownType(type))
         context.err << "zdt: note: " << oneLine(type) << " is no kind of lock screen that zdt knows; "
                     << "its name alone is written\n";
@@ -118,6 +128,9 @@ int setLockCommand(const Context& context, const std::string& name, const std::s
 }
 
 int evalCommand(const Context& context, const std::string& text) {
+    if (tokenise(text).size() > maxExpressionTokens)
+        throw Refusal(oneLine(text.substr(0, 80)),
+                      "it is longer than " + std::to_string(maxExpressionTokens) + " numbers and signs");
     const std::int32_t value = calculate(text);
     context.print(Json(value), {std::to_string(value)});
     return 0;
@@ -131,9 +144,9 @@ int foldCommand(const Context& context, const std::string& text, std::uint32_t h
 int expandCommand(const Context& context, const std::string& src) {
     const std::optional<std::vector<std::string>> names = expandSource(src);
     if (!names)
-        throw Refusal(src.substr(0, 80), "it is longer than " + std::to_string(maxSourceBytes) +
-                                             " bytes or stands for more than " + std::to_string(maxPictureNames) +
-                                             " names");
+        throw Refusal(src.substr(0, 80), "it is longer than " + std::to_string(maxSourceBytes) + " bytes or " +
+                                             std::to_string(maxSourceTokens) + " parts, or stands for more than " +
+                                             std::to_string(maxPictureNames) + " names");
     context.print(*names, *names);
     return 0;
 }

@@ -12,15 +12,17 @@ namespace zdt {
 
 namespace {
 
-std::string escapeLineBreaks(const std::string& line) {
-    std::string escaped;
+/// A line that stays one, and that leaves the terminal as it is.
+std::string escaped(const std::string& line) {
+    std::string text;
     for (const char c : line) {
+        const auto byte = static_cast<unsigned char>(c);
         if (c == '\n')
-            escaped += "\\n";
+            text += "\\n";
         else
-            escaped += c;
+            text += (byte < ' ' && c != '\t') || byte == 0x7f ? '?' : c;
     }
-    return escaped;
+    return text;
 }
 
 } // namespace
@@ -50,7 +52,7 @@ void Context::print(const Json& document, const std::vector<std::string>& lines)
         return;
     }
     for (const std::string& line : lines)
-        out << escapeLineBreaks(line) << '\n';
+        out << escaped(line) << '\n';
 }
 
 void Context::print(const std::string& text) const {

@@ -29,7 +29,8 @@ void forItems(const ThemeResource& theme, Take take) {
 
 void requireSettable(const ThemeResource& theme, const SharedSetting& setting, const std::string& text) {
     if (theme.simpleSources(setting.group, setting.item).empty())
-        throw Refusal(text, returnCode::notFound);
+        throw Refusal(text, "there is no such setting; \"zdt simple NAME\" lists them (" +
+                                std::to_string(returnCode::notFound) + ")");
     if (!theme.simpleTakesPart(setting.group, setting.item))
         throw takesNoPart(text);
 }
@@ -44,7 +45,9 @@ int simpleCommand(const Context& context, const std::string& name) {
         if (context.json)
             list.push_back(describe(*theme, group, item));
         else
-            lines.push_back(group[0] + "\t" + group[1] + "\t" + item + "\t" + theme->simpleValue(group, item));
+            lines.push_back(
+                group[0] + "\t" + group[1] + "\t" + item + "\t" +
+                (theme->simpleTakesPart(group, item) ? theme->simpleValue(group, item) : "(not in this theme)"));
     });
     context.print(list, lines);
     return 0;
@@ -57,11 +60,18 @@ int setSimpleCommand(const Context& context, const std::string& name, const Shar
     const std::string text = joinKeyPath(setting.group) + "/" + setting.item;
     requireSettable(*theme, setting, text);
     requireKeepable(text, setting.value);
+    std::vector<std::pair<ResNode*, std::string>> before;
+    for (ResNode* each : theme->simpleSources(setting.group, setting.item))
+        before.emplace_back(each, each->value());
     if (const int code = theme->setSimpleValue(setting.group, setting.item, setting.value))
         throw Refusal(text, code);
-    if (!theme->applySimple(setting.group, setting.item))
-        throw Refusal(text, "it couldn't be written");
-    return 0;
+    if (theme->applySimple(setting.group, setting.item))
+        return 0;
+    // Some blocks may have been written; they get their old values back.
+    for (const auto& [node, value] : before)
+        node->setRawValue(value);
+    static_cast<void>(theme->applySimple(setting.group, setting.item));
+    throw Refusal(text, "it couldn't be written everywhere, and is as it was");
 }
 
 } // namespace zdt

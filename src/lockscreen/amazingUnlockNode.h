@@ -111,7 +111,7 @@ private:
     /// The pictures that the layout on disk names, and those that came since: what may be removed when it is in use no
     /// more. Others in the folder are the author's.
     std::set<std::string> _ownPictures;
-    DamagedXml _damaged;
+    DamagedFile _damaged;
     bool _readable = false;
     bool _hasWallpaper = false;
 };

@@ -21,6 +21,10 @@ std::vector<std::string_view> splitWords(std::string_view text) {
     return words;
 }
 
+bool isBlank(std::string_view text) {
+    return splitWords(text).empty();
+}
+
 bool isComparison(std::string_view word) {
     return word == "eq" || word == "gt" || word == "ge" || word == "le";
 }
@@ -118,8 +122,8 @@ std::optional<std::size_t> chargeIndexOf(std::string_view condition) {
 }
 
 std::string joinConditions(const std::string& one, const std::string& other) {
-    if (one.empty() || other.empty())
-        return one + other;
+    if (isBlank(one) || isBlank(other))
+        return isBlank(one) ? other : one;
     return one + " or " + other;
 }
 

@@ -18,6 +18,7 @@ constexpr const char* rootTag = "layout";
 struct LayoutBudget {
     std::size_t elements = maxLayoutElements;
     std::size_t names = maxLayoutNames;
+    std::size_t nameBytes = maxLayoutNameBytes;
 };
 
 bool takeFrom(std::size_t& budget, std::size_t count) {
@@ -27,8 +28,12 @@ bool takeFrom(std::size_t& budget, std::size_t count) {
 }
 
 bool fits(const tinyxml2::XMLElement& element, LayoutBudget& budget) {
-    const char* src = element.Attribute("src");
-    if (!takeFrom(budget.elements, 1) || !takeFrom(budget.names, src ? countNames(src) : 0))
+    const char* attribute = element.Attribute("src");
+    const std::string_view src = attribute ? attribute : "";
+    const std::size_t names = src.empty() ? 0 : countNames(src);
+    // No name is longer than the text that it comes from.
+    if (!takeFrom(budget.elements, 1) || !takeFrom(budget.names, names) ||
+        !takeFrom(budget.nameBytes, names * src.size()))
         return false;
     for (const auto* child = element.FirstChildElement(); child; child = child->NextSiblingElement()) {
         if (!fits(*child, budget))
@@ -63,7 +68,8 @@ bool writeLayout(const std::string& path, const LayoutElements& elements) {
         if (tinyxml2::XMLElement* written = element->write(&document))
             root.InsertEndChild(written);
     }
-    return makePath(path) && saveXml(document, path);
+    LayoutBudget budget;
+    return fits(root, budget) && makePath(path) && saveXml(document, path);
 }
 
 FixedHeightForm::FixedHeightForm(const LayoutElements& elements, std::uint32_t height)

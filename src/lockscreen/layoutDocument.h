@@ -16,14 +16,17 @@ using LayoutElements = std::vector<std::unique_ptr<AmazingChild>>;
 
 /// More elements, at any depth, than any lock screen has; a document with more isn't read.
 inline constexpr std::size_t maxLayoutElements = 20000;
-/// More picture names than all elements of a lock screen stand for; a document with more isn't read.
+/// More picture names than all elements of a lock screen stand for, and more bytes of them; a document with more isn't
+/// read.
 inline constexpr std::size_t maxLayoutNames = 200000;
+inline constexpr std::size_t maxLayoutNameBytes = 16 * 1024 * 1024;
 
 /// Reads the elements as they stand, all of the plain class. False, with no elements, for a file that is missing, isn't
 /// well formed, is larger or nests deeper than any layout, or has another root.
 [[nodiscard]] bool readLayout(const std::string& path, LayoutElements& elements);
 
-/// Writes the elements, making the folder. The file is written whole or not at all.
+/// Writes the elements, making the folder. The file is written whole or not at all; false as well for more elements or
+/// names than are read.
 [[nodiscard]] bool writeLayout(const std::string& path, const LayoutElements& elements);
 
 /// Rewrites the elements for a screen of one fixed height for as long as it lives: what counts from the lower edge

@@ -113,7 +113,7 @@ public:
     /// of a picture that names no bare files.
     [[nodiscard]] int setAttributes(const ElementPath& path, const AmazingChild::Attributes& attributes);
     /// Gives an element other children, such as a decoration its animations with their frames, or an unlocker the path
-    /// to its end. Refused for more than 100 levels, and as `setAttributes`.
+    /// to its end. Refused for more levels than are read again, and as `setAttributes`.
     [[nodiscard]] int setChildren(const ElementPath& path, const std::vector<AmazingChild>& children);
     /// Paints an element in another place of the order. A decoration that lands among the clock's pictures goes below
     /// them where a reader would otherwise take it for one of them.

@@ -159,7 +159,8 @@ int LockDesign::setAttributes(const ElementPath& path, const AmazingChild::Attri
 }
 
 int LockDesign::setChildren(const ElementPath& path, const std::vector<AmazingChild>& children) {
-    constexpr int deepest = 100;
+    constexpr int deepestLevel = 98; // to which a document is read, its root included
+    const int deepest = deepestLevel - 1 - static_cast<int>(path.size());
     AmazingChild* element = findIn(_elements, path);
     if (!element)
         return designCode::unknownId;

@@ -96,6 +96,11 @@ bool isVariable(const std::string& token) {
     return token.find('\'') == std::string::npos;
 }
 
+bool isTooLong(std::string_view src) {
+    return src.size() > maxSourceBytes ||
+           static_cast<std::size_t>(std::count(src.begin(), src.end(), '+')) >= maxSourceTokens;
+}
+
 } // namespace
 
 std::vector<std::string> splitSource(std::string_view src) {
@@ -109,8 +114,10 @@ std::vector<std::string> splitSource(std::string_view src) {
 }
 
 std::size_t countNames(std::string_view src) {
+    if (isTooLong(src))
+        return 0;
     std::size_t count = 1;
-    for (const std::string& token : splitSource(src.substr(0, maxSourceBytes))) {
+    for (const std::string& token : splitSource(src)) {
         count *= tokenValues(token, rangeOf("hour2")).size();
         if (count > maxPictureNames)
             return maxPictureNames + 1;
@@ -132,7 +139,7 @@ std::optional<std::vector<std::string>> expandTokens(const std::vector<std::stri
 }
 
 std::optional<std::vector<std::string>> expandSource(std::string_view src) {
-    if (src.size() > maxSourceBytes)
+    if (isTooLong(src))
         return std::nullopt;
     std::vector<std::string> tokens = splitSource(src);
     const bool isPlainName = std::all_of(tokens.begin(), tokens.end(), [](const std::string& token) {

@@ -17,6 +17,9 @@ inline constexpr std::size_t maxPictureNames = 10000;
 /// Bytes of the longest `src` that is expanded; a longer one is refused.
 inline constexpr std::size_t maxSourceBytes = 4096;
 
+/// Parts of a `src`; one of more is refused.
+inline constexpr std::size_t maxSourceTokens = 100;
+
 /// The variable of a wallpaper's height, as it stands in a `src`: in quotes.
 inline constexpr std::string_view heightToken = "'system.screen_height'";
 /// What stands in its place in the names of the pictures for a height of 2160.
@@ -26,7 +29,7 @@ inline constexpr std::string_view tallPrefix = "2160_";
 [[nodiscard]] std::vector<std::string> splitSource(std::string_view src);
 
 /// How many names a `src` stands for, told without making them: no fewer than `expandSource` gives, and at most one
-/// more than it allows.
+/// more than it allows; 0 for one that is too long to be looked at.
 [[nodiscard]] std::size_t countNames(std::string_view src);
 
 /// The names that the tokens stand for, in counting order with the last digit running fastest. With the first

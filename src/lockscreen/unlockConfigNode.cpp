@@ -59,7 +59,7 @@ bool isWritten(std::string_view attribute, const std::string& type, bool isGener
 
 } // namespace
 
-std::string readUnlockType(const std::string& themeDirectory, DamagedXml& damaged) {
+std::string readUnlockType(const std::string& themeDirectory, DamagedFile& damaged) {
     tinyxml2::XMLDocument document;
     if (themeDirectory.empty())
         return {};

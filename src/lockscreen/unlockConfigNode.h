@@ -36,6 +36,6 @@ public:
 
 /// The kind of lock screen that the file `unlock/theme.xml` of a theme says; empty if it can't be read, and then it is
 /// noted in `damaged`.
-[[nodiscard]] std::string readUnlockType(const std::string& themeDirectory, DamagedXml& damaged);
+[[nodiscard]] std::string readUnlockType(const std::string& themeDirectory, DamagedFile& damaged);
 
 } // namespace zdt

@@ -18,10 +18,10 @@ public:
 
     /// Whether the theme has the file but it couldn't be read.
     [[nodiscard]] bool isDamaged() const { return !_damaged.path().empty(); }
-    [[nodiscard]] DamagedXml& damaged() { return _damaged; }
+    [[nodiscard]] DamagedFile& damaged() { return _damaged; }
 
 private:
-    DamagedXml _damaged;
+    DamagedFile _damaged;
 };
 
 } // namespace zdt

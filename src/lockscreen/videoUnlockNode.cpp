@@ -1,11 +1,11 @@
 #include "lockscreen/videoUnlockNode.h"
 
-#include "lockscreen/amazingChild.h"
 #include "lockscreen/unlockConfigNode.h"
 #include "model/fileResNode.h"
 #include "model/textResNode.h"
 #include "support/files.h"
 #include "support/keyValueFile.h"
+#include "support/pattern.h"
 #include "support/xmlFile.h"
 
 #include <memory>
@@ -15,8 +15,7 @@ namespace zdt {
 namespace {
 
 constexpr const char* propertiesFile = "ext.properties";
-/// A file name with something besides dots in it.
-constexpr const char* bareNamePattern = "[^/]*[^/.][^/]*";
+constexpr const char* videoNamePattern = R"([^/]+\.mp4)";
 constexpr const char* livepaperFile = "unlock/livepaper.xml";
 
 /// What a block of a video is, by the name of the node that holds it.
@@ -32,12 +31,12 @@ VideoRole roleOf(const ResNode& owner) {
     return {owner.parent() ? dynamicLockDirectory(*owner.parent()) : std::string(), "unlockVideo", defaultLockVideo};
 }
 
-/// What `ext.properties` says. An imported theme can't name a file outside its own directory: such a name counts as
-/// none.
+/// What `ext.properties` says. An imported theme can name neither a file outside its own directory nor one that
+/// is no video: such a name counts as none.
 KeyValues readProperties(const std::string& directory, const VideoRole& role) {
     KeyValues properties = directory.empty() ? KeyValues() : readKeyValueFile(directory + propertiesFile);
     const auto named = properties.find(role.key);
-    if (named == properties.end() || !isBareFileName(named->second))
+    if (named == properties.end() || !matchesPattern(named->second, videoNamePattern))
         properties[role.key] = role.defaultFile;
     return properties;
 }
@@ -60,10 +59,12 @@ VideoUnlockConfig::VideoUnlockConfig(ResNode* parent)
     const VideoRole role = roleOf(*parent);
     setPath(role.directory);
     KeyValues properties = readProperties(nodeDirectory(), role);
+    if (const std::string file = nodeDirectory() + propertiesFile; !nodeDirectory().empty() && !loadKeyValueFile(file))
+        _damaged.note(file);
     properties.try_emplace("video_mode", "1");
     for (const auto& [key, value] : properties) {
         // The file can hold neither an empty value nor a line break.
-        adopt(std::make_unique<TextResNode>(key, value)).setRegex(key == role.key ? bareNamePattern : ".+");
+        adopt(std::make_unique<TextResNode>(key, value)).setRegex(key == role.key ? videoNamePattern : ".+");
     }
 }
 
@@ -76,7 +77,8 @@ bool VideoUnlockConfig::save(bool all) {
     KeyValues properties;
     for (const ResNode* child = firstChild(); child; child = child->next())
         properties[child->name()] = child->value();
-    return writeKeyValueFile(directory + propertiesFile, properties);
+    const std::string file = directory + propertiesFile;
+    return _damaged.keepFrom(file) && writeKeyValueFile(file, properties);
 }
 
 VideoUnlockImageSet::VideoUnlockImageSet(ResNode* parent)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/resNode.h"
+#include "support/damagedFile.h"
 
 #include <cstdint>
 #include <string>
@@ -19,9 +20,12 @@ class VideoUnlockConfig : public ResNode {
 public:
     explicit VideoUnlockConfig(ResNode* parent);
 
-    /// Without `all`, nothing is written unless the lock screen is a video. False if the directory isn't known or the
-    /// file can't be written.
+    /// Without `all`, nothing is written unless the lock screen is a video. A file that couldn't be read is kept aside.
+    /// False if the directory isn't known or the file can't be written.
     [[nodiscard]] bool save(bool all) override;
+
+private:
+    DamagedFile _damaged;
 };
 
 /// The video: one file child, named as `ext.properties` says.

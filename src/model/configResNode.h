@@ -66,7 +66,7 @@ private:
     std::string _rootElement;
     std::string _defaultType;
     std::map<std::string, std::string> _typeMap;
-    DamagedXml _damaged;
+    DamagedFile _damaged;
 };
 
 /// Joins ordered lists into one order that keeps each list's own, as far as they agree: (a, b, c) and (a, x, c) give

@@ -12,7 +12,7 @@ unsigned generationOfVersion(std::string_view version) {
     return version.front() == '5' ? 0 : version.front() == '8' ? 1 : generation9Index;
 }
 
-Description readDescriptionFile(const std::string& path, DamagedXml* damaged) {
+Description readDescriptionFile(const std::string& path, DamagedFile* damaged) {
     Description description;
     tinyxml2::XMLDocument document;
     if (!loadXml(document, path)) {

@@ -42,6 +42,6 @@ using Description = std::map<std::string, std::string>;
 /// The fields that a file names. A field whose element holds no text is there with an empty value; unknown elements are
 /// left out; of two texts for one field the later one counts. Empty for an unreadable file, which is noted in
 /// `damaged`.
-[[nodiscard]] Description readDescriptionFile(const std::string& path, DamagedXml* damaged = nullptr);
+[[nodiscard]] Description readDescriptionFile(const std::string& path, DamagedFile* damaged = nullptr);
 
 } // namespace zdt

@@ -24,7 +24,7 @@ public:
 private:
     void addDescription();
 
-    DamagedXml _damaged;
+    DamagedFile _damaged;
 };
 
 } // namespace zdt

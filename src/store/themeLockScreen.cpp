@@ -7,6 +7,8 @@
 #include "support/files.h"
 #include "support/text.h"
 
+#include <algorithm>
+
 /// The lock screen of an open theme.
 namespace zdt {
 
@@ -38,11 +40,26 @@ int ThemeResource::setLockScreenType(const std::string& type) {
     const std::string oldStyle = style->value();
     if (const int code = unlock->setValue(type))
         return code;
+    const std::vector<std::string> before = lockFiles();
     if (writeLockScreen())
         return returnCode::success;
+    for (const std::string& file : lockFiles()) {
+        if (std::find(before.begin(), before.end(), file) == before.end())
+            static_cast<void>(removeFile(file));
+    }
     unlock->setRawValue(oldType);
     style->setRawValue(oldStyle);
     return returnCode::copyFailed;
+}
+
+/// Those of the files that go with a video lock screen which are there.
+std::vector<std::string> ThemeResource::lockFiles() const {
+    std::vector<std::string> files{_resTree->path() + "unlock/livepaper.xml"};
+    for (const ResNode* properties :
+         {node({"unlock", "video", "ext.properties"}), node({"wallpaper", "ext.properties"})})
+        files.push_back(properties->nodeDirectory() + properties->name());
+    std::erase_if(files, [](const std::string& file) { return !isPlainFile(file); });
+    return files;
 }
 
 /// The file that names the kind comes last: whatever fails before leaves the old kind standing.

@@ -316,6 +316,7 @@ private:
     /// Copies the pictures that the design lacks from the template, as far as that has them.
     void takePicturesFromTemplate();
     [[nodiscard]] bool writeLockScreen();
+    [[nodiscard]] std::vector<std::string> lockFiles() const;
     /// -1 for a theme whose design is missing or can't be read.
     [[nodiscard]] int changeDesign(const std::function<int(LockDesign&)>& change);
     [[nodiscard]] int importDesignPicture(const std::string& file,

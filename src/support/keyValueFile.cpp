@@ -3,12 +3,14 @@
 #include "support/files.h"
 
 #include <cstdint>
+#include <utility>
 
 namespace zdt {
 
 namespace {
 
 constexpr std::uint64_t maxKeyValueBytes = 1024 * 1024;
+constexpr std::size_t maxPairs = 10000;
 
 } // namespace
 
@@ -28,8 +30,16 @@ KeyValues parseKeyValues(std::string_view text) {
     return pairs;
 }
 
+std::optional<KeyValues> loadKeyValueFile(const std::string& path) {
+    const std::optional<std::string> text = readFile(path, maxKeyValueBytes);
+    if (!text)
+        return std::nullopt;
+    KeyValues pairs = parseKeyValues(*text);
+    return pairs.size() <= maxPairs ? std::optional<KeyValues>(std::move(pairs)) : std::nullopt;
+}
+
 KeyValues readKeyValueFile(const std::string& path) {
-    return parseKeyValues(readFile(path, maxKeyValueBytes).value_or(std::string()));
+    return loadKeyValueFile(path).value_or(KeyValues());
 }
 
 bool writeKeyValueFile(const std::string& path, const KeyValues& pairs, Flush flush) {

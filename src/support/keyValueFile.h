@@ -3,6 +3,7 @@
 #include "support/atomicFile.h"
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,7 +16,11 @@ using KeyValues = std::map<std::string, std::string>;
 /// first "=" are skipped; one trailing carriage return is dropped; a later line replaces an earlier one of its key.
 [[nodiscard]] KeyValues parseKeyValues(std::string_view text);
 
-/// `parseKeyValues` of a file; empty if it can't be read or is larger than any such file can be (1 MiB).
+/// `parseKeyValues` of a file. Nothing if it can't be read or is larger than any such file can be: 1 MiB, or 10,000
+/// pairs.
+[[nodiscard]] std::optional<KeyValues> loadKeyValueFile(const std::string& path);
+
+/// The same, empty for nothing.
 [[nodiscard]] KeyValues readKeyValueFile(const std::string& path);
 
 /// Writes the pairs in ascending key order, a line each. False if that fails, and for a key or value with a line break,

@@ -3,9 +3,13 @@
 #include "support/atomicFile.h"
 #include "support/files.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
 #include <cstdint>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace zdt {
 
@@ -15,17 +19,82 @@ constexpr std::uint64_t maxXmlBytes = 16 * 1024 * 1024;
 constexpr int maxAttributes = 1000;
 constexpr const char* declaration = R"(xml version="1.0" encoding="UTF-8")";
 
+/// The place behind the next `end`; the text's size without one.
+std::size_t behind(std::string_view text, std::string_view end, std::size_t from) {
+    const std::size_t place = text.find(end, from);
+    return place == std::string_view::npos ? text.size() : place + end.size();
+}
+
+/// The place of a tag's end. Counts the quoted values on the way, of which there are as many as attributes.
+std::size_t endOfTag(std::string_view text, std::size_t place, int& values) {
+    while (place < text.size() && text[place] != '>') {
+        const char quote = text[place++];
+        if (quote != '"' && quote != '\'')
+            continue;
+        ++values;
+        place = behind(text, {&quote, 1}, place);
+    }
+    return place;
+}
+
 /// Whether no element has more attributes than `maxAttributes`: the parser compares each with all before it, and a file
-/// of many would take minutes. Any "=" between "<" and ">" counts, so that text can only make the answer stricter.
+/// of many would take hours. The text is walked as the parser does, so that no value or comment can hide a tag.
 bool hasFewAttributes(std::string_view text) {
-    int count = 0;
-    for (const char c : text) {
-        if (c == '<' || c == '>')
-            count = 0;
-        else if (c == '=' && ++count > maxAttributes)
+    constexpr std::array<std::pair<std::string_view, std::string_view>, 4> notTags{
+        {{"!--", "-->"}, {"![CDATA[", "]]>"}, {"!", ">"}, {"?", "?>"}}};
+    for (std::size_t place = behind(text, "<", 0); place < text.size(); place = behind(text, "<", place)) {
+        const std::string_view rest = text.substr(place);
+        const auto* const other = std::find_if(notTags.begin(), notTags.end(),
+                                               [&](const auto& each) { return rest.starts_with(each.first); });
+        int values = 0;
+        place = other != notTags.end() ? behind(text, other->second, place + other->first.size())
+                                       : endOfTag(text, place, values);
+        if (values > maxAttributes)
             return false;
     }
     return true;
+}
+
+bool isForbidden(std::uint32_t code) {
+    return code < ' ' && code != '\t' && code != '\n' && code != '\r';
+}
+
+/// The number of a reference such as "&#27;" or "&#x1b;"; a blank for one of no number.
+std::uint32_t referencedCode(std::string_view reference) {
+    const bool isHex = reference.starts_with('x');
+    reference.remove_prefix(isHex ? 1 : 0);
+    std::uint32_t code = ' ';
+    const auto result = std::from_chars(reference.data(), reference.data() + reference.size(), code, isHex ? 16 : 10);
+    return result.ec == std::errc() ? code : ' ';
+}
+
+/// Whether a text holds control characters, plain or as references. The parser lets them pass, but what is written of
+/// them would be no XML.
+bool holdsControlCharacters(std::string_view text) {
+    constexpr std::size_t longestReference = 16;
+    if (std::any_of(text.begin(), text.end(), [](char c) { return isForbidden(static_cast<unsigned char>(c)); }))
+        return true;
+    for (std::size_t place = text.find("&#"); place != std::string_view::npos; place = text.find("&#", place + 2)) {
+        if (isForbidden(referencedCode(text.substr(place + 2, longestReference))))
+            return true;
+    }
+    return false;
+}
+
+bool isReadable(std::string_view text) {
+    return text.size() <= maxXmlBytes && hasFewAttributes(text) && !holdsControlCharacters(text);
+}
+
+/// The text with each carriage return as a character reference: a reader makes any other one a line feed. They come
+/// from a reference themselves, and stand in texts and values alone.
+std::string withReferences(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (std::size_t end = text.find('\r'); end != std::string_view::npos; end = text.find('\r')) {
+        result.append(text.substr(0, end)).append("&#13;");
+        text.remove_prefix(end + 1);
+    }
+    return result.append(text);
 }
 
 } // namespace
@@ -33,28 +102,11 @@ bool hasFewAttributes(std::string_view text) {
 bool loadXml(tinyxml2::XMLDocument& document, const std::string& path) {
     document.Clear();
     const std::optional<std::string> text = readFile(path, maxXmlBytes);
-    if (text && hasFewAttributes(*text) && document.Parse(text->data(), text->size()) == tinyxml2::XML_SUCCESS &&
+    if (text && isReadable(*text) && document.Parse(text->data(), text->size()) == tinyxml2::XML_SUCCESS &&
         document.RootElement())
         return true;
     document.Clear();
     return false;
-}
-
-void DamagedXml::note(const std::string& path) {
-    if (pathExists(path))
-        _path = path;
-}
-
-bool DamagedXml::keepFrom(const std::string& path) {
-    if (_path.empty() || _path != path)
-        return true;
-    std::string aside = path + ".damaged";
-    for (int number = 2; isTaken(aside); ++number)
-        aside = path + ".damaged-" + std::to_string(number);
-    if (pathExists(path) && !moveIntoPlace(path, aside, Flush::no))
-        return false;
-    _path.clear();
-    return true;
 }
 
 bool saveXml(const tinyxml2::XMLDocument& document, const std::string& path) {
@@ -64,7 +116,8 @@ bool saveXml(const tinyxml2::XMLDocument& document, const std::string& path) {
 }
 
 bool saveXml(const tinyxml2::XMLPrinter& printer, const std::string& path) {
-    return writeFile(path, printer.CStr());
+    const std::string text = withReferences({printer.CStr(), static_cast<std::size_t>(printer.CStrSize()) - 1});
+    return isReadable(text) && writeFile(path, text);
 }
 
 void startXml(tinyxml2::XMLPrinter& printer, const std::string& rootName) {

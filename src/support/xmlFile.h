@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/damagedFile.h"
+
 #include <tinyxml2.h>
 
 #include <string>
@@ -7,27 +9,12 @@
 /// Reading and writing the XML documents of a theme.
 namespace zdt {
 
-/// Reads a document. False, with an empty document, if the file is missing, isn't a plain file, isn't well formed, or
-/// larger than any document of a theme can be: 16 MiB, or 1,000 attributes in an element.
+/// Reads a document. False, with an empty document, if the file is missing, isn't a plain file, isn't well formed,
+/// holds control characters, plain or as references, or is larger than any document of a theme can be: 16 MiB, or 1,000
+/// attributes in an element.
 [[nodiscard]] bool loadXml(tinyxml2::XMLDocument& document, const std::string& path);
 
-/// A document's file that was there and couldn't be read. It is kept when the document is written anew, so that an
-/// author may still mend it by hand.
-class DamagedXml {
-public:
-    /// Notes the file if something stands there; to be called when `loadXml` failed.
-    void note(const std::string& path);
-    /// Empty if nothing is damaged.
-    [[nodiscard]] const std::string& path() const { return _path; }
-    /// To be called before a document is written: moves the damaged file aside, to its name and ".damaged" (or
-    /// ".damaged-2" and so on), if that is where it stands.
-    [[nodiscard]] bool keepFrom(const std::string& path);
-
-private:
-    std::string _path;
-};
-
-/// Writes a document whole or not at all; the folder must exist.
+/// Writes a document whole or not at all; the folder must exist. False as well for one that `loadXml` would not read.
 [[nodiscard]] bool saveXml(const tinyxml2::XMLDocument& document, const std::string& path);
 
 /// The same for a text that was printed with no document: much faster for one that is written at each edit.

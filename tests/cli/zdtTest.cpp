@@ -13,6 +13,7 @@ namespace zdt {
 namespace {
 
 using nlohmann::json;
+using test::readFile;
 using test::TemporaryStore;
 
 struct Result {
@@ -257,7 +258,7 @@ TEST_F(ZdtTest, SharedSettingIsRefusedWithItsReason) {
         arguments.insert(arguments.end(), words.begin(), words.end());
         expectRefusal(arguments, words[0] + "/" + words[1] + "/" + words[2] + ": " + why);
     };
-    const std::string unknown = "there is no such key in this theme (-14)";
+    const std::string unknown = "there is no such setting; \"zdt simple NAME\" lists them (-14)";
     refuse("T", {"nothing", "dial", "highlight color", "#111111"}, unknown);
     refuse("T", {"commonSetting", "nothing", "highlight color", "#111111"}, unknown);
     refuse("T", {"commonSetting", "dial", "", "#111111"}, unknown);
@@ -269,7 +270,12 @@ TEST_F(ZdtTest, SharedSettingIsRefusedWithItsReason) {
     const std::string folder = store.path("res/T/com.android.phone/framework-res-zdext");
     ASSERT_TRUE(removeTree(folder));
     store.write("res/T/com.android.phone/framework-res-zdext", "a file in the folder's place");
-    refuse("T", {"commonSetting", "dial", "highlight color", "#135790"}, "it couldn't be written");
+    refuse("T", {"commonSetting", "dial", "highlight color", "#135790"},
+           "it couldn't be written everywhere, and is as it was");
+    for (const char* module : {"com.android.contacts", "com.android.systemui"})
+        EXPECT_EQ(
+            readFile(store.path("res/T/" + std::string(module) + "/framework-res-zdext/theme.xml")).find("135790"),
+            std::string::npos);
 }
 
 TEST_F(ZdtTest, CheckListsWhatIsMissingAndExportRefusesIt) {
@@ -386,19 +392,38 @@ TEST_F(ZdtTest, LockScreenIsShownAndChangesItsKind) {
     EXPECT_EQ(lock["elements"][1]["resources"], json({"number_0.png", "number_1.png", "number_2.png"}));
     EXPECT_EQ(lock["elements"][12]["unlockerKind"], 2);
     EXPECT_EQ(lock["elements"][12]["children"][1]["children"][1]["attributes"]["type"], "unlock");
-    EXPECT_NE(run({"lock", "T"}).out.find("unlocker\tunlocker\tname=unlock_up"), std::string::npos);
+    EXPECT_NE(run({"lock", "T"}).out.find("unlocker (kind 2)\tunlocker\tname=unlock_up"), std::string::npos);
 
     EXPECT_EQ(run({"lock", "T", "slide"}).status, 0);
     EXPECT_EQ(document({"lock", "T"})["type"], "slide");
     const Result unknown = run({"lock", "T", "vidoe"});
     EXPECT_EQ(unknown.status, 0) << "a phone may know more kinds";
     EXPECT_NE(unknown.err.find("vidoe is no kind of lock screen that zdt knows"), std::string::npos);
-    expectRefusal({"lock", "T", ""}, "T: the value is empty (-18)");
+    expectRefusal({"lock", "T", ""}, "T: \"\" is no kind of lock screen (-9)");
+    expectRefusal({"lock", "T", "AMAZING"}, "T: \"AMAZING\" is no kind of lock screen (-9)");
     expectRefusal({"lock", "None", "slide"}, "None: there is no theme of that name");
     EXPECT_EQ(document({"lock", "T"})["type"], "vidoe");
     store.write("res/T/unlock/theme.xml", "<ZDTheme><cut");
     EXPECT_EQ(run({"lock", "T", "amazing"}).status, 0) << "this is how a damaged one is mended";
     EXPECT_EQ(run({"check", "T"}).out, "");
+}
+
+TEST_F(ZdtTest, DocumentsThatWouldStopTheParserAreDamagedOnes) {
+    store.create("T");
+    std::string attributes;
+    for (int number = 0; number < 60000; ++number)
+        attributes += " a" + std::to_string(number) + "=\">\"";
+    const std::string source = "'" + std::string(3000, 'a') + "'+system.time.hour2+system.time.hour2+system.time.hour2";
+    std::string names;
+    for (int number = 0; number < 200; ++number)
+        names += "<image src=\"" + source + "\"/>";
+    for (const std::string& content : {"<image" + attributes + "/>", names, std::string("<text src='a&#27;b'/>"),
+                                       std::string("<text src='a&#x0;b'/>"), std::string("<text src='a\x01'/>")}) {
+        store.write("res/T/unlock/layout-hdpi/layout1.xml", "<layout>" + content + "</layout>");
+        const Result result = run({"lock", "T"});
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(result.err, "zdt: note: the layout is damaged and can't be read\n") << content.substr(0, 40);
+    }
 }
 
 TEST_F(ZdtTest, TextsOfALayoutAreComputed) {

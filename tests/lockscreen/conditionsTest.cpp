@@ -68,7 +68,7 @@ TEST(Conditions, ChargeConditionIsToldToTheLetter) {
     EXPECT_EQ(chargeIndexOf("system.charge.level ge 30 and system.charge.level le 40 and system.charge.show"),
               std::nullopt);
     EXPECT_EQ(joinConditions("a", "b"), "a or b");
-    EXPECT_EQ(joinConditions("", "b"), "b");
+    EXPECT_EQ(joinConditions(" ", "b"), "b");
     EXPECT_EQ(joinConditions("a", ""), "a");
 }
 

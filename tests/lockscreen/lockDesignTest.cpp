@@ -298,6 +298,41 @@ TEST(LockDesign, DecorationTakesAnimationsThatXmlCanHold) {
     EXPECT_EQ(design.setAttributes({0}, {{"src", "../a.png"}}), designCode::notAllowed);
     EXPECT_EQ(design.setChildren({5}, {frames}), designCode::unknownId);
     EXPECT_EQ(design.elements()[0]->children().size(), 1U);
+
+    auto deep = std::make_unique<AmazingChild>("a");
+    for (int level = 1; level < 96; ++level) {
+        auto outer = std::make_unique<AmazingChild>("a");
+        outer->addChild(std::move(deep));
+        deep = std::move(outer);
+    }
+    EXPECT_EQ(design.setChildren({0}, {*deep}), 0);
+    expectSameWhenReadBack(design);
+    AmazingChild tooDeep("a");
+    tooDeep.addChild(std::move(deep));
+    EXPECT_EQ(design.setChildren({0}, {tooDeep}), designCode::notAllowed);
+}
+
+TEST(LockDesign, MoreThanIsReadIsNotWrittenOverALayout) {
+    const TemporaryFolder folder;
+    const std::string path = folder.path("a.xml");
+    const std::string manyNames = "''+system.time.min2+system.time.min2+system.time.min2+system.time.min2";
+    const struct {
+        std::size_t frames;
+        std::string src;
+        bool isWritten;
+    } cases[] = {{0, "", true},
+                 {maxLayoutElements - 2, "", true},
+                 {maxLayoutElements - 1, "", false},
+                 {20, manyNames, true},
+                 {21, manyNames, false}};
+    for (const auto& [frames, src, isWritten] : cases) {
+        LayoutElements elements;
+        AmazingChild& animation = *elements.emplace_back(std::make_unique<AmazingChild>("animation"));
+        for (std::size_t index = 0; index < frames; ++index)
+            animation.addChild(std::make_unique<AmazingChild>("frame", AmazingChild::Attributes{{"src", src}}));
+        EXPECT_EQ(writeLayout(path, elements), isWritten) << frames;
+        EXPECT_TRUE(readLayout(path, elements)) << frames;
+    }
 }
 
 TEST(LockDesign, AnyOrderOfOperationsLeavesADesignThatReadsTheSame) {

@@ -245,6 +245,22 @@ TEST_F(LockScreenTest, VideoIsTheOnlyOneAndServesAnEmptyWallpaperToo) {
     EXPECT_TRUE(layout() == design);
 }
 
+TEST_F(LockScreenTest, RefusedVideoLeavesNothingAndPropertiesAreKept) {
+    auto theme = store.create("T");
+    ASSERT_EQ(theme->setLockScreenType("slide"), 0);
+    store.write("res/T/unlock/ucdscreenlock", "in the folder's place");
+    EXPECT_EQ(theme->setLockScreenType("video"), -3);
+    EXPECT_FALSE(pathExists(unlock("livepaper.xml")));
+    ASSERT_TRUE(removeFile(unlock("ucdscreenlock")));
+    const std::string large = "mine=1\n" + std::string(1100000, '#') + "\n";
+    store.write("res/T/unlock/ucdscreenlock/ext.properties", large);
+    theme = store.open("T");
+    EXPECT_EQ(theme->setLockScreenType("video"), 0);
+    EXPECT_TRUE(readFile(unlock("ucdscreenlock/ext.properties.damaged")) == large);
+    store.write("res/T/unlock/ucdscreenlock/ext.properties", "unlockVideo=ext.properties\n");
+    EXPECT_TRUE(store.open("T")->findLeaf({"unlock", "video", "image_set"}, "unlock.mp4"));
+}
+
 TEST_F(LockScreenTest, DesignIsEditableWhileAVideoIsTheLockScreen) {
     auto theme = store.create("T");
     ASSERT_EQ(theme->setLockScreenType("video"), 0);

@@ -48,6 +48,18 @@ TEST(XmlFile, WhatIsNoDocumentIsRefusedAndLeavesAnEmptyOne) {
     EXPECT_STREQ(document.RootElement()->Name(), "a");
 }
 
+TEST(XmlFile, CarriageReturnIsWrittenSoThatItIsReadBack) {
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a.xml", "<a b='1&#13;2&#13;&#10;3'>4&#xd;&amp;5\r\n6</a>");
+    for (int time = 0; time < 2; ++time) {
+        tinyxml2::XMLDocument document;
+        ASSERT_TRUE(loadXml(document, path));
+        EXPECT_TRUE(std::string(document.RootElement()->Attribute("b")) == "1\r2\r\n3");
+        EXPECT_TRUE(std::string(document.RootElement()->GetText()) == "4\r&5\n6");
+        EXPECT_TRUE(saveXml(document, path));
+    }
+}
+
 TEST(XmlFile, DocumentIsWrittenWithDeclarationAndReadBack) {
     const TemporaryFolder folder;
     const std::string path = folder.path("theme.xml");
@@ -69,14 +81,35 @@ TEST(XmlFile, DocumentIsWrittenWithDeclarationAndReadBack) {
 }
 
 TEST(XmlFile, ElementOfMoreAttributesThanAnyThemeHasIsRefusedAtOnce) {
-    const test::TemporaryFolder folder;
-    tinyxml2::XMLDocument document;
-    for (const int count : {1000, 1001, 1000000}) {
-        std::string text = "<a><b";
-        for (int index = 0; index < count; ++index)
-            text += " a" + std::to_string(index) + "=''";
-        EXPECT_EQ(loadXml(document, folder.write("a.xml", text + "/></a>")), count <= 1000) << count;
+    const TemporaryFolder folder;
+    for (const char* value : {"''", "'>'", "\"<'\"", "'-->'", "'\"'"}) {
+        for (const int count : {1000, 1001, 300000}) {
+            std::string text = "<?x '?><a><!-- <b c=' --><![CDATA[<b ']]><b";
+            for (int index = 0; index < count; ++index)
+                text += " a" + std::to_string(index) + "=" + value;
+            tinyxml2::XMLDocument document;
+            EXPECT_EQ(loadXml(document, folder.write("a.xml", text + "/></a>")), count <= 1000) << value << count;
+        }
     }
+}
+
+TEST(XmlFile, WhatIsWrittenCanBeRead) {
+    const TemporaryFolder folder;
+    const std::string path = folder.path("a.xml");
+    const std::string text = std::string(5000, '=') + "='>' a=\"<\"";
+    tinyxml2::XMLDocument document;
+    tinyxml2::XMLElement& root = startXml(document, "a");
+    addXmlElement(root, "b", text).SetAttribute("c", text.c_str());
+    ASSERT_TRUE(saveXml(document, path));
+    tinyxml2::XMLDocument again;
+    ASSERT_TRUE(loadXml(again, path));
+    EXPECT_TRUE(again.RootElement()->FirstChildElement()->GetText() == text);
+    EXPECT_TRUE(again.RootElement()->FirstChildElement()->Attribute("c") == text);
+
+    for (int index = 0; index <= 1000; ++index)
+        root.SetAttribute(("a" + std::to_string(index)).c_str(), "");
+    EXPECT_FALSE(saveXml(document, path));
+    EXPECT_TRUE(loadXml(again, path)) << "the file stays";
 }
 
 } // namespace
