@@ -70,7 +70,7 @@ void CellView::start() {
     freeCells(0, 0);
     _hovered = -1;
     const int before = _current;
-    _current = _current < count() ? _current : count() - 1;
+    _current = selectableFrom(std::min(_current, count() - 1), -1);
     relayout();
     if (_current != before)
         emit currentChanged(_current);
@@ -209,6 +209,11 @@ void CellView::resizeEvent(QResizeEvent*) {
 
 void CellView::scrollContentsBy(int, int) {
     placeCells();
+    // No event tells that another cell came under a pointer that stands still.
+    if (_hovered >= 0) {
+        _hovered = selectableAt(viewport()->mapFromGlobal(QCursor::pos()));
+        showStates();
+    }
 }
 
 } // namespace zdt

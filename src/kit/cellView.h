@@ -49,6 +49,8 @@ protected:
     [[nodiscard]] virtual int firstBelow(int y) const = 0;
     /// How many cells a key passes: 0 for one that moves nothing.
     [[nodiscard]] virtual int stepOf(int key) const = 0;
+    /// Measures, and places the cells again.
+    void relayout();
     /// Draws what lies under a cell, in the viewport.
     virtual void paintGround(QPainter& painter, const QRect& place, const CellState& state) const;
 
@@ -72,7 +74,6 @@ private:
     };
 
     void start();
-    void relayout();
     void placeCells();
     void freeCells(int first, int end);
     [[nodiscard]] Cell takeCell(int kind);
@@ -80,6 +81,7 @@ private:
     void showStates();
     void step(int by);
     [[nodiscard]] int selectableFrom(int index, int direction) const;
+    [[nodiscard]] int selectableAt(const QPoint& position) const;
     [[nodiscard]] int indexAt(const QPoint& position) const;
     [[nodiscard]] QRect seenPlace(int index) const;
 

@@ -53,6 +53,11 @@ int CellView::indexAt(const QPoint& position) const {
     return -1;
 }
 
+int CellView::selectableAt(const QPoint& position) const {
+    const int index = indexAt(position);
+    return index >= 0 && cellSource()->isSelectable(index) ? index : -1;
+}
+
 void CellView::mousePressEvent(QMouseEvent* event) {
     const int index = indexAt(event->position().toPoint());
     if (index >= 0)

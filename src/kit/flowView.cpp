@@ -11,7 +11,7 @@ void ZFlowView::setSource(ZFlowViewDataSource* source) {
 void ZFlowView::setMargins(int side, int end) {
     _side = side;
     _end = end;
-    setCellSource(cellSource());
+    relayout();
 }
 
 void ZFlowView::measure() {

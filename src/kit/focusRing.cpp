@@ -126,6 +126,18 @@ void FocusRing::follow() {
     _ring->raise();
 }
 
+void FocusRing::followSoon() {
+    // Scrolling moves many widgets at once; the ring follows once for all of them.
+    if (_following)
+        return;
+    _following = true;
+    const auto now = [this] {
+        _following = false;
+        follow();
+    };
+    QMetaObject::invokeMethod(this, now, Qt::QueuedConnection);
+}
+
 bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::KeyPress:
@@ -143,7 +155,7 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::EnabledChange:
         // Whatever moves may carry the focus with it; the ring's own moves are not followed.
         if (_byKeyboard && watched->isWidgetType() && watched != _ring)
-            QMetaObject::invokeMethod(this, &FocusRing::follow, Qt::QueuedConnection);
+            followSoon();
         break;
     default:
         break;

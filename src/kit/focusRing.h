@@ -34,8 +34,10 @@ private:
 
     void setByKeyboard(bool byKeyboard);
     void follow();
+    void followSoon();
 
     bool _byKeyboard = false;
+    bool _following = false;
     QPointer<QWidget> _ring;
 };
 

@@ -28,6 +28,11 @@ Scrim::Scrim(QWidget* window, ZBaseDialog* dialog)
     qApp->installEventFilter(this);
 }
 
+Scrim::~Scrim() {
+    if (_dialog && _dialog->parentWidget() == this)
+        _dialog->done(QDialog::Rejected);
+}
+
 void Scrim::cover() {
     const auto* framed = qobject_cast<const ZWindow*>(parentWidget());
     const int edge = framed && !framed->isMaximisedOrFull() ? 1 : 0;
@@ -84,21 +89,31 @@ bool Scrim::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::Resize:
     case QEvent::WindowStateChange:
-        if (watched == parentWidget()) {
+        if (watched == parentWidget() && _dialog) {
             cover();
             _dialog->move(fitted(_dialog->pos()));
         }
         return false;
-    // Another dialog over this one has a scrim of its own, which lies outside: its keys are not ours to take.
+    // Another dialog over this one lies outside too, and its keys are not ours to take: only the top one judges.
     case QEvent::Shortcut:
-        return isVisible() && isOutside(watched) && !qobject_cast<QWidget*>(watched->parent());
+        return isOutside(watched) && isTop();
     case QEvent::FocusIn:
-        if (isVisible() && isOutside(watched) && parentWidget()->findChildren<Scrim*>().constLast() == this)
+        if (isOutside(watched) && isTop())
             _dialog->setFocus();
         return false;
     default:
         return false;
     }
+}
+
+bool Scrim::isTop() const {
+    const Scrim* top = nullptr;
+    for (const QObject* child : parent()->children()) {
+        const auto* scrim = qobject_cast<const Scrim*>(child);
+        if (scrim && scrim->isVisible())
+            top = scrim;
+    }
+    return top == this;
 }
 
 void Scrim::paintEvent(QPaintEvent*) {

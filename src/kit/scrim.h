@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 namespace zdt {
@@ -13,6 +14,8 @@ class Scrim : public QWidget {
 
 public:
     Scrim(QWidget* window, ZBaseDialog* dialog);
+    /// A window that goes away under an open dialog refuses what it asked.
+    ~Scrim() override;
 
     /// Puts the dialog into the middle and fades it in, or shows it at once if the system asks for less motion.
     void present();
@@ -32,8 +35,9 @@ private:
     void fade();
     void fitDialog();
     [[nodiscard]] bool isOutside(QObject* watched) const;
+    [[nodiscard]] bool isTop() const;
 
-    ZBaseDialog* _dialog;
+    QPointer<ZBaseDialog> _dialog;
 };
 
 } // namespace zdt

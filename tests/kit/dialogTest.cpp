@@ -7,14 +7,15 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include <chrono>
+#include <memory>
 #include <stdexcept>
 #include <thread>
 
@@ -98,6 +99,8 @@ TEST_F(DialogTest, MessageShowsArgumentsAsTheyAre) {
 
 TEST_F(DialogTest, NothingUnderADialogIsReachedAndTheFocusComesBack) {
     field->setFocus();
+    int shortcuts = 0;
+    const QShortcut shortcut(QKeySequence("Ctrl+P"), &window, [&] { ++shortcuts; });
     whenOpen([&] {
         const QPoint place = page->mapTo(&window, page->rect().center());
         EXPECT_NE(window.childAt(place), page);
@@ -106,6 +109,8 @@ TEST_F(DialogTest, NothingUnderADialogIsReachedAndTheFocusComesBack) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             EXPECT_FALSE(page->hasFocus() || field->hasFocus());
         }
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_P, Qt::ControlModifier);
+        EXPECT_EQ(shortcuts, 0);
         FindControl<ZMessageBoxDlg>(&window, {}).reject();
     });
     (void)ZMessageBoxDlg::ask(question(), same, &window);
@@ -113,12 +118,32 @@ TEST_F(DialogTest, NothingUnderADialogIsReachedAndTheFocusComesBack) {
     EXPECT_TRUE(window.titleActions()->isEnabled());
     QTest::mouseClick(page, Qt::LeftButton);
     EXPECT_EQ(pageClicks, 1);
+    QTest::keyClick(page, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(shortcuts, 1);
 }
 
 TEST_F(DialogTest, ClosingTheWindowRefusesWhatWasAsked) {
     whenOpen([&] { window.close(); });
     EXPECT_FALSE(ZMessageBoxDlg::ask(question(), same, &window));
     EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(DialogTest, AWindowThatGoesAwayRefusesToo) {
+    auto other = std::make_unique<QWidget>();
+    other->show();
+    whenOpen([&] { other.reset(); });
+    EXPECT_FALSE(ZMessageBoxDlg::ask(question(), same, other.get()));
+}
+
+TEST_F(DialogTest, ABoxOverADialogLeavesItUsable) {
+    whenOpen([&] {
+        auto& first = FindControl<ZMessageBoxDlg>(&window, {});
+        whenOpen([&] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); });
+        EXPECT_FALSE(ZMessageBoxDlg::ask(question(), same, &first));
+        EXPECT_TRUE(first.isVisible() && first.isAncestorOf(QApplication::focusWidget()));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    });
+    EXPECT_TRUE(ZMessageBoxDlg::ask(question(), same, &window));
 }
 
 TEST_F(DialogTest, WorkEndsWithItsResultWhileTheWindowLives) {
