@@ -56,7 +56,9 @@ bool takesRing(const QWidget& widget) {
 
 double ringRadius(const QWidget& widget) {
     const QVariant radius = widget.property("focusRadius");
-    const double wanted = (radius.isValid() ? radius.toDouble() : token::radiusField) + token::ringGap + 1;
+    const bool chip = widget.property("kind") == "chip";
+    const double own = radius.isValid() ? radius.toDouble() : chip ? token::radiusChip : token::radiusField;
+    const double wanted = own + token::ringGap + 1;
     return std::min(wanted, widget.height() / 2.0 + token::ringGap + 1);
 }
 
