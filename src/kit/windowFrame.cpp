@@ -61,7 +61,7 @@ void WindowResizer::showCursor(Qt::Edges edges) {
 }
 
 bool WindowResizer::eventFilter(QObject* watched, QEvent* event) {
-    const bool moved = event->type() == QEvent::MouseMove || event->type() == QEvent::HoverMove;
+    const bool moved = event->type() == QEvent::MouseMove;
     if (!moved && event->type() != QEvent::MouseButtonPress && event->type() != QEvent::Leave)
         return false;
     // The system's window hears each event first, before any widget that covers its edge.
@@ -84,28 +84,33 @@ TitleDrag::TitleDrag(QWidget* titleBar)
     titleBar->installEventFilter(this);
 }
 
+void TitleDrag::dragFrom(const QPoint& position) {
+    QWindow* window = _titleBar->window()->windowHandle();
+    // Only a real move starts a drag: the system would swallow the second press of a double click.
+    if (!_held || !window || (position - _pressed).manhattanLength() < QApplication::startDragDistance())
+        return;
+    _held = false;
+    window->startSystemMove();
+}
+
 bool TitleDrag::eventFilter(QObject*, QEvent* event) {
-    const auto* mouse = static_cast<QMouseEvent*>(event);
     switch (event->type()) {
-    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonPress: {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
         _held = mouse->button() == Qt::LeftButton;
         _pressed = mouse->position().toPoint();
         return _held;
-    case QEvent::MouseMove: {
-        const int moved = (mouse->position().toPoint() - _pressed).manhattanLength();
-        // Only a real move starts a drag: the system would swallow the second press of a double click.
-        if (_held && moved >= QApplication::startDragDistance() && _titleBar->window()->windowHandle()) {
-            _held = false;
-            _titleBar->window()->windowHandle()->startSystemMove();
-        }
-        return true;
     }
+    case QEvent::MouseMove:
+        dragFrom(static_cast<QMouseEvent*>(event)->position().toPoint());
+        return true;
     case QEvent::MouseButtonRelease:
         _held = false;
         return true;
     case QEvent::MouseButtonDblClick:
         _held = false;
-        if (auto* window = qobject_cast<ZWindow*>(_titleBar->window()); window && mouse->button() == Qt::LeftButton)
+        if (auto* window = qobject_cast<ZWindow*>(_titleBar->window());
+            window && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
             window->toggleMaximised();
         return true;
     default:

@@ -33,6 +33,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void dragFrom(const QPoint& position);
+
     QWidget* _titleBar;
     QPoint _pressed;
     bool _held = false;
