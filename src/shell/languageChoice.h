@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kit/localisation.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -7,9 +9,6 @@
 /// The language of the interface, kept in `config.ini` of the skin folder: section "Special_for_init_select_language",
 /// key "kSpecial_for_init_select_language", "1" for Chinese and "2" for English; "0" or empty while none is chosen.
 namespace zdt {
-
-inline constexpr int chineseLanguage = 0;
-inline constexpr int englishLanguage = 1;
 
 /// Whether a system of that locale name, such as "zh_CN.UTF-8", writes simplified Chinese.
 [[nodiscard]] bool isSimplifiedChinese(std::string_view locale);
