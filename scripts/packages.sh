@@ -5,6 +5,9 @@ packages=(
     libzip-dev libtinyxml2-dev libcli11-dev nlohmann-json3-dev
     libre2-dev # regular expressions whose time is linear: a theme's texts come from outside
     qt6-base-dev
+    qt6-tools-dev libqt6opengl6-dev # layouts that are loaded while the program runs; CMake finds them only with the second
+    fonts-inter fonts-jetbrains-mono fonts-noto-cjk # the faces of the window, Chinese too
+    fonts-material-design-icons-iconfont # its icons
     # to test and check
     libgtest-dev libbenchmark-dev clang-format clang-tidy
     aapt # compiles every nine-patch picture of the templates
@@ -12,4 +15,5 @@ packages=(
     libgif-dev # writes the GIFs of the tests
     clang libclang-rt-14-dev # the compiler of the fuzz targets, with libFuzzer and the sanitizers
     zip unzip python3 # peers of the benchmarks, and the tests of the program as a whole
+    xvfb xauth openbox xdotool imagemagick # a screen, a window manager, hands and eyes for looking at the window
 )

@@ -1,0 +1,34 @@
+#include "kit/kitControls.h"
+
+#include "kit/emptyState.h"
+#include "kit/flowView.h"
+#include "kit/labels.h"
+#include "kit/listView.h"
+#include "kit/searchField.h"
+#include "kit/segmentedControl.h"
+#include "kit/skinLoader.h"
+#include "kit/switchControl.h"
+
+namespace zdt {
+
+namespace {
+
+template <typename Control>
+void add(SkinLoader& loader, const char* className) {
+    loader.registerControl(className, [](QWidget* parent) { return new Control(parent); });
+}
+
+} // namespace
+
+void registerKitControls(SkinLoader& loader) {
+    add<ZBadge>(loader, "ZBadge");
+    add<ZElidedLabel>(loader, "ZElidedLabel");
+    add<ZEmptyState>(loader, "ZEmptyState");
+    add<ZFlowView>(loader, "ZFlowView");
+    add<ZListView>(loader, "ZListView");
+    add<ZSearchField>(loader, "ZSearchField");
+    add<ZSegmented>(loader, "ZSegmented");
+    add<ZSwitch>(loader, "ZSwitch");
+}
+
+} // namespace zdt

@@ -1,0 +1,35 @@
+#include "kit/searchField.h"
+
+#include "kit/icons.h"
+#include "kit/tokens.h"
+
+#include <QAction>
+#include <QKeyEvent>
+
+namespace zdt {
+
+ZSearchField::ZSearchField(QWidget* parent)
+    : QLineEdit(parent)
+    , _clear(new QAction(icon(Icon::Close, token::textSecond), {}, this)) {
+    setProperty("kind", "search");
+    addAction(icon(Icon::Search, token::textSecond), QLineEdit::LeadingPosition);
+    addAction(_clear, QLineEdit::TrailingPosition);
+    _clear->setVisible(false);
+    connect(_clear, &QAction::triggered, this, &QLineEdit::clear);
+    connect(this, &QLineEdit::textChanged, this, [this](const QString& text) { _clear->setVisible(!text.isEmpty()); });
+}
+
+void ZSearchField::setClearTip(const QString& tip) {
+    _clear->setText(tip);
+    _clear->setToolTip(tip);
+}
+
+void ZSearchField::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && !text().isEmpty()) {
+        clear();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+} // namespace zdt
