@@ -98,7 +98,7 @@ int changeElement(LockDesign& design, fuzz::Bytes& bytes) {
         return design.setAttributes(where, attributes(bytes));
     }
     case 2:
-        return design.setDecorationChildren(place(bytes, design), {AmazingChild(text(bytes), attributes(bytes))});
+        return design.setChildren(path(bytes, design), {AmazingChild(text(bytes), attributes(bytes))});
     case 3: {
         const std::size_t from = place(bytes, design);
         return design.moveElement(from, place(bytes, design));

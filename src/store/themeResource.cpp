@@ -45,6 +45,12 @@ TypeMask deriveTypeMask(const std::string& themeDirectory) {
     return mask | (isFolder(themeDirectory + "com.android.mms/") ? typeMask::bigTheme : typeMask::smallTheme);
 }
 
+/// @throws std::invalid_argument as `parseTypeMask`
+TypeMask typeMaskOf(const KeyValues& settings, const std::string& themeDirectory) {
+    const auto type = settings.find(typeKey);
+    return type == settings.end() ? deriveTypeMask(themeDirectory) : parseTypeMask(type->second);
+}
+
 } // namespace
 
 ThemeResource::ThemeResource(std::string root, std::string name, TypeMask mask)
@@ -68,14 +74,19 @@ std::unique_ptr<ThemeResource> ThemeResource::openTheme(const std::string& theme
         return nullptr;
     const std::string rootDirectory = storeRoot(root);
     KeyValues settings = readKeyValueFile(settingsFile(rootDirectory, themeName));
-    const auto type = settings.find(typeKey);
-    const TypeMask mask =
-        type == settings.end() ? deriveTypeMask(themeFolder(rootDirectory, themeName)) : parseTypeMask(type->second);
+    const TypeMask mask = typeMaskOf(settings, themeFolder(rootDirectory, themeName));
     std::unique_ptr<ThemeResource> theme(new ThemeResource(rootDirectory, themeName, mask));
     theme->applySettings(settings);
     theme->_savedSettings = std::move(settings);
     theme->setLanguageBit(chinese);
     return theme;
+}
+
+TypeMask ThemeResource::readTypeMask(const std::string& name, const std::string& root) {
+    if (!isThemeName(name))
+        return 0;
+    const std::string rootDirectory = storeRoot(root);
+    return typeMaskOf(readKeyValueFile(settingsFile(rootDirectory, name)), themeFolder(rootDirectory, name));
 }
 
 bool ThemeResource::hasChineseSettings(const std::string& name, const std::string& root) {

@@ -79,6 +79,9 @@ public:
     /// Whether the settings of a theme say that it was made under a Chinese interface; true if they say nothing.
     /// @throws std::invalid_argument as `openTheme`
     [[nodiscard]] static bool hasChineseSettings(const std::string& name, const std::string& root);
+    /// What a theme is, by its settings or else by what it holds, as its opening would find.
+    /// @throws std::invalid_argument as `openTheme`
+    [[nodiscard]] static TypeMask readTypeMask(const std::string& name, const std::string& root);
     /// Unpacks a package, verifies it and puts it in the place of a theme named by the file's stem, which `outName`
     /// receives. A failure leaves what stood there.
     [[nodiscard]] static bool importTheme(const std::string& packagePath, std::string& outName, const std::string& root,

@@ -7,36 +7,54 @@ namespace zdt {
 
 namespace {
 
-/// The length of the UTF-8 sequence at the start of `text`, 0 if it is not well formed.
-std::size_t sequenceLength(std::string_view text) {
+/// A character and the number of bytes that it took.
+struct Sequence {
+    std::size_t length = 0; ///< 0 for bytes that are not well formed.
+    std::uint32_t codePoint = 0;
+};
+
+/// The UTF-8 sequence at the start of `text`, which isn't empty.
+Sequence firstSequence(std::string_view text) {
     const auto byteAt = [&](std::size_t index) { return static_cast<unsigned char>(text[index]); };
     const unsigned char lead = byteAt(0);
     if (lead < 0x80)
-        return 1;
+        return {1, lead};
     const std::size_t length = lead >= 0xf0 ? 4 : lead >= 0xe0 ? 3 : 2;
     if (lead < 0xc2 || lead > 0xf4 || text.size() < length)
-        return 0;
+        return {};
     std::uint32_t codePoint = lead & (0x7fU >> length);
     for (std::size_t index = 1; index < length; ++index) {
         if ((byteAt(index) & 0xc0) != 0x80)
-            return 0;
+            return {};
         codePoint = codePoint << 6 | (byteAt(index) & 0x3fU);
     }
     constexpr std::uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
     const bool isSurrogate = codePoint >= 0xd800 && codePoint <= 0xdfff;
-    return codePoint < smallest[length] || codePoint > 0x10ffff || isSurrogate ? 0 : length;
+    const bool isSound = codePoint >= smallest[length] && codePoint <= 0x10ffff && !isSurrogate;
+    return isSound ? Sequence{length, codePoint} : Sequence();
 }
 
 } // namespace
 
 bool isUtf8(std::string_view text) {
     while (!text.empty()) {
-        const std::size_t length = sequenceLength(text);
+        const std::size_t length = firstSequence(text).length;
         if (length == 0)
             return false;
         text.remove_prefix(length);
     }
     return true;
+}
+
+std::u32string toCodePoints(std::string_view text) {
+    constexpr char32_t replacement = 0xfffd;
+    std::u32string characters;
+    while (!text.empty()) {
+        const Sequence next = firstSequence(text);
+        characters += next.length > 0 ? static_cast<char32_t>(next.codePoint) : replacement;
+        text.remove_prefix(std::max<std::size_t>(next.length, 1));
+    }
+    return characters;
 }
 
 bool isXmlText(std::string_view text) {

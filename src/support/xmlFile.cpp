@@ -59,23 +59,23 @@ bool isForbidden(std::uint32_t code) {
     return code < ' ' && code != '\t' && code != '\n' && code != '\r';
 }
 
-/// The number of a reference such as "&#27;" or "&#x1b;"; a blank for one of no number.
-std::uint32_t referencedCode(std::string_view reference) {
-    const bool isHex = reference.starts_with('x');
-    reference.remove_prefix(isHex ? 1 : 0);
-    std::uint32_t code = ' ';
-    const auto result = std::from_chars(reference.data(), reference.data() + reference.size(), code, isHex ? 16 : 10);
-    return result.ec == std::errc() ? code : ' ';
+/// Whether what follows a "&#" is the rest of a reference to a character that XML may hold, such as "38;" or "x26;".
+/// The parser makes something of any other, too.
+bool isSoundReference(std::string_view rest) {
+    const bool isHex = rest.starts_with('x');
+    rest.remove_prefix(isHex ? 1 : 0);
+    std::uint32_t code = 0;
+    const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), code, isHex ? 16 : 10);
+    return error == std::errc() && end != rest.data() + rest.size() && *end == ';' && !isForbidden(code);
 }
 
 /// Whether a text holds control characters, plain or as references. The parser lets them pass, but what is written of
 /// them would be no XML.
 bool holdsControlCharacters(std::string_view text) {
-    constexpr std::size_t longestReference = 16;
     if (std::any_of(text.begin(), text.end(), [](char c) { return isForbidden(static_cast<unsigned char>(c)); }))
         return true;
     for (std::size_t place = text.find("&#"); place != std::string_view::npos; place = text.find("&#", place + 2)) {
-        if (isForbidden(referencedCode(text.substr(place + 2, longestReference))))
+        if (!isSoundReference(text.substr(place + 2)))
             return true;
     }
     return false;

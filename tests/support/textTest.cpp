@@ -55,5 +55,11 @@ TEST(Text, LowerCaseTouchesAsciiLettersAlone) {
     EXPECT_EQ(toLowerAscii("@AZ[`az{ÄÉ.PNG"), "@az[`az{ÄÉ.png");
 }
 
+TEST(Text, CharactersAreCountedAndNotBytes) {
+    EXPECT_TRUE(toCodePoints("") == U"");
+    EXPECT_TRUE(toCodePoints("a主\xf0\x9f\x8e\xa8") == U"a主🎨");
+    EXPECT_TRUE(toCodePoints("a\xff\xe4\xb8") == U"a\ufffd\ufffd\ufffd");
+}
+
 } // namespace
 } // namespace zdt

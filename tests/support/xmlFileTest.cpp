@@ -48,6 +48,16 @@ TEST(XmlFile, WhatIsNoDocumentIsRefusedAndLeavesAnEmptyOne) {
     EXPECT_STREQ(document.RootElement()->Name(), "a");
 }
 
+TEST(XmlFile, ControlCharacterIsRefusedHoweverItIsWritten) {
+    const TemporaryFolder folder;
+    tinyxml2::XMLDocument document;
+    for (const char* text :
+         {"\x01", "&#27;", "&#x1b;", "&#0;", "&#311#3;", "&#;", "&#x;", "&#1", "&#", "&#99999999999;"})
+        EXPECT_FALSE(loadXml(document, folder.write("a.xml", "<a>" + std::string(text) + "</a>"))) << text;
+    for (const char* text : {"&#9;&#10;&#13;", "&#x20;&#20013;", "&amp;#27;", "\t\r\n", "&#38;#27;"})
+        EXPECT_TRUE(loadXml(document, folder.write("a.xml", "<a>" + std::string(text) + "</a>"))) << text;
+}
+
 TEST(XmlFile, CarriageReturnIsWrittenSoThatItIsReadBack) {
     const TemporaryFolder folder;
     const std::string path = folder.write("a.xml", "<a b='1&#13;2&#13;&#10;3'>4&#xd;&amp;5\r\n6</a>");

@@ -1,0 +1,57 @@
+#include "shell/helperSweep.h"
+
+#include "support/files.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <charconv>
+#include <climits>
+#include <csignal>
+#include <cstdlib>
+#include <memory>
+#include <vector>
+
+namespace zdt {
+
+namespace {
+
+/// The program that a process runs; empty for one that has ended or is another user's.
+std::string programOf(const std::string& process) {
+    std::vector<char> path(PATH_MAX);
+    const ssize_t length = ::readlink(("/proc/" + process + "/exe").c_str(), path.data(), path.size());
+    return length > 0 ? std::string(path.data(), static_cast<std::size_t>(length)) : std::string();
+}
+
+bool isProcess(const std::string& name) {
+    return !name.empty() && std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+std::string resolved(const std::string& path) {
+    const std::unique_ptr<char, void (*)(void*)> full(::realpath(path.c_str(), nullptr), &std::free);
+    return full ? full.get() : std::string();
+}
+
+} // namespace
+
+int endProcessesOf(const std::string& program) {
+    const std::string full = resolved(program);
+    if (full.empty())
+        return 0;
+    int ended = 0;
+    for (const std::string& name : listDirectories("/proc/")) {
+        if (!isProcess(name) || programOf(name) != full)
+            continue;
+        pid_t process = 0;
+        std::from_chars(name.data(), name.data() + name.size(), process);
+        if (process > 0 && process != ::getpid() && ::kill(process, SIGKILL) == 0)
+            ++ended;
+    }
+    return ended;
+}
+
+std::string phoneHelper() {
+    return programDirectory() + "tools/adb";
+}
+
+} // namespace zdt
