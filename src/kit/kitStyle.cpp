@@ -68,11 +68,11 @@ bool askedForLessMotion() {
 
 } // namespace
 
-bool applyKitStyle(QApplication& application, const QString& skinFolder) {
+bool applyKitStyle(QApplication& application, const QStringList& skinFolders) {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication::setFont(textFont(token::textBody));
     applyPalette(application);
-    QDir::setSearchPaths("skin", {skinFolder});
+    QDir::setSearchPaths("skin", skinFolders);
     FocusRing::install(application);
     QFile sheet("skin:style.qss");
     if (!sheet.open(QIODevice::ReadOnly))

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 class QAbstractButton;
 class QApplication;
@@ -11,10 +11,10 @@ namespace zdt {
 
 enum class Icon : char16_t;
 
-/// Dresses the program: faces, colours, `style.qss` of the skin's folder, and the focus ring. In the style sheet,
-/// pictures are written as `url(skin:name.png)`. False when the style sheet can't be read; the program works without
-/// it.
-bool applyKitStyle(QApplication& application, const QString& skinFolder);
+/// Dresses the program: faces, colours, `style.qss` of the first of the skin's folders that has it, and the focus ring.
+/// In it, pictures are written as `url(skin:name.png)`. False when the style sheet can't be read; the program works
+/// without it.
+bool applyKitStyle(QApplication& application, const QStringList& skinFolders);
 
 /// Sets a property that the style sheet asks for (`kind`, `state`, `size`, …) and shows its effect at once.
 void setStyleProperty(QWidget* widget, const char* name, const QVariant& value);

@@ -54,8 +54,8 @@ SkinLoader::Result failed(const QString& name, const QString& why) {
 
 } // namespace
 
-SkinLoader::SkinLoader(QString folder)
-    : _folder(std::move(folder)) {
+SkinLoader::SkinLoader(QStringList folders)
+    : _folders(std::move(folders)) {
     registerKitControls(*this);
 }
 
@@ -64,7 +64,12 @@ void SkinLoader::registerControl(const QString& className, Factory factory) {
 }
 
 SkinLoader::Result SkinLoader::load(const QString& name, QWidget* parent) const {
-    QFile file(QDir(_folder).filePath(name));
+    QFile file(name); // named in the error when there is no folder at all
+    for (const QString& folder : _folders) {
+        file.setFileName(QDir(folder).filePath(name));
+        if (file.exists())
+            break;
+    }
     if (!file.open(QIODevice::ReadOnly))
         return failed(file.fileName(), file.errorString());
     if (file.size() > maximumLayout)

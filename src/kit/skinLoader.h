@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <QWidget>
 
 #include <functional>
@@ -21,8 +21,8 @@ public:
         QString error;
     };
 
-    /// `folder` holds the layouts. The kit's own controls are known from the start.
-    explicit SkinLoader(QString folder);
+    /// A layout is taken from the first of `folders` that has it. The kit's own controls are known from the start.
+    explicit SkinLoader(QStringList folders);
 
     /// Makes a class known by the name under which layouts use it; a later one replaces an earlier one.
     void registerControl(const QString& className, Factory factory);
@@ -35,7 +35,7 @@ public:
     [[nodiscard]] Result loadText(const QByteArray& layout, const QString& name, QWidget* parent = nullptr) const;
 
 private:
-    QString _folder;
+    QStringList _folders;
     std::map<QString, Factory> _controls;
 };
 

@@ -293,7 +293,7 @@ void overlay(ZWindow& window, const QString& which) {
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    if (!applyKitStyle(application, arguments.value(1)))
+    if (!applyKitStyle(application, {arguments.value(1)}))
         qWarning("no style sheet in %s", qPrintable(arguments.value(1)));
     Rows rows;
     Cards cards;

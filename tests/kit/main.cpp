@@ -10,7 +10,7 @@ int main(int argc, char* argv[]) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    if (!zdt::applyKitStyle(application, ZDT_SKIN_DIR))
+    if (!zdt::applyKitStyle(application, QStringList{ZDT_SKIN_DIR}))
         return 1;
     return RUN_ALL_TESTS();
 }

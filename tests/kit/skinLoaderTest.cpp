@@ -69,7 +69,7 @@ TEST(SkinLoader, TellsWhatIsWrongWithALayout) {
 TEST(SkinLoader, ReadsFilesOfItsFolderAndTellsOfMissingOnes) {
     const test::TemporaryFolder folder;
     folder.write("skin.xml", form("").toStdString());
-    const SkinLoader loader(QString::fromStdString(folder.path()));
+    const SkinLoader loader(QStringList{"/nowhere/", QString::fromStdString(folder.path())});
     EXPECT_TRUE(loader.load("skin.xml").widget);
     const auto missing = loader.load("nothing.xml");
     EXPECT_FALSE(missing.widget);
