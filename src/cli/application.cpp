@@ -106,7 +106,7 @@ private:
 
     CLI::App* addNamed(const std::string& name, const std::string& description, const Command& command) {
         CLI::App* subcommand = add(name, description, command);
-        subcommand->add_option("NAME", _arguments.name, "The theme")->required();
+        subcommand->add_option("NAME", _arguments.name, "The theme")->type_name("")->required();
         return subcommand;
     }
 
@@ -167,14 +167,17 @@ void Grammar::addValueCommands() {
     CLI::App* get = addNamed("get", "Prints a value", [](const Context& context, const Arguments& arguments) {
         return getCommand(context, arguments.name, arguments.key);
     });
-    get->add_option("KEY", _arguments.key, "Node names joined by \"/\"")->required();
+    get->add_option("KEY", _arguments.key, "Node names joined by \"/\"")->type_name("")->required();
 
     CLI::App* set = addNamed("set", "Sets values", [](const Context& context, const Arguments& arguments) {
         return setCommand(context, arguments.name, arguments.pairs);
     });
     constexpr int fewest = 2;
     constexpr int most = 1 << 20;
-    set->add_option("KEY VALUE", _arguments.pairs, "Keys and values in turn")->required()->expected(fewest, most);
+    set->add_option("KEY VALUE", _arguments.pairs, "Keys and values in turn")
+        ->type_name("")
+        ->required()
+        ->expected(fewest, most);
     set->parse_complete_callback([this] {
         if (_arguments.pairs.size() % 2 != 0)
             throw CLI::ValidationError("the key " + _arguments.pairs.back(), "has no value");
@@ -184,7 +187,7 @@ void Grammar::addValueCommands() {
         addNamed("reset", "Puts a file back to the template's", [](const Context& context, const Arguments& arguments) {
             return resetCommand(context, arguments.name, arguments.key);
         });
-    reset->add_option("KEY", _arguments.key, "Node names joined by \"/\"")->required();
+    reset->add_option("KEY", _arguments.key, "Node names joined by \"/\"")->type_name("")->required();
 }
 
 void Grammar::addSimpleCommand() {
@@ -196,7 +199,11 @@ void Grammar::addSimpleCommand() {
                        : setSimpleCommand(context, arguments.name, {{words[0], words[1]}, words[2], words[3]});
         });
     constexpr int words = 4;
-    simple->add_option("MODULE GROUP ITEM VALUE", _arguments.setting, "The setting to change")->expected(words);
+    simple->add_option("MODULE GROUP ITEM VALUE", _arguments.setting, "The setting to change")
+        ->type_name("")
+        ->expected(words);
+    simple->footer("Words with blanks stand in quotes, as in\n"
+                   "  zdt simple Lagoon mms \"mms list\" \"highlight color\" \"#0a9396\"");
 }
 
 void Grammar::addPackageCommands() {
@@ -206,18 +213,18 @@ void Grammar::addPackageCommands() {
         addNamed("export", "Writes a theme as a package", [](const Context& context, const Arguments& arguments) {
             return exportCommand(context, arguments.name, arguments.file);
         });
-    exporting->add_option("FILE", _arguments.file, "The package")->required();
+    exporting->add_option("FILE", _arguments.file, "The package")->type_name("")->required();
     CLI::App* importing = add("import", "Makes a package a theme, named by the file",
                               [](const Context& context, const Arguments& arguments) {
                                   return importCommand(context, arguments.file, arguments.replace);
                               });
-    importing->add_option("FILE", _arguments.file, "The package")->required();
+    importing->add_option("FILE", _arguments.file, "The package")->type_name("")->required();
     importing->add_flag("--replace", _arguments.replace, "Takes the place of a theme of that name");
 }
 
 CLI::App* Grammar::addTextCommand(const std::string& name, const std::string& description, const Command& command) {
     CLI::App* subcommand = add(name, description, command);
-    subcommand->add_option("TEXT", _arguments.text, "Behind \"--\" if it begins with \"-\"")->required();
+    subcommand->add_option("TEXT", _arguments.text, "Behind \"--\" if it begins with \"-\"")->type_name("")->required();
     return subcommand;
 }
 
@@ -227,7 +234,13 @@ void Grammar::addLockCommands() {
                                   return arguments.type ? setLockCommand(context, arguments.name, *arguments.type)
                                                         : lockCommand(context, arguments.name);
                               });
-    lock->add_option("TYPE", _arguments.type, "slide, magazine, amazing, video, custom or zooking");
+    lock->add_option("TYPE", _arguments.type, "The new kind")->type_name("");
+    lock->footer("The kinds:\n"
+                 "  slide, magazine  the phone's own\n"
+                 "  amazing          freely designed; a theme without a design gets a new one\n"
+                 "  video            a video, unlock/video/image_set/unlock.mp4\n"
+                 "  custom           supplied whole, as a package\n"
+                 "  zooking          of an engine outside the phone");
 
     addTextCommand("eval", "The value of an expression", [](const Context& context, const Arguments& arguments) {
         return evalCommand(context, arguments.text);
@@ -240,13 +253,15 @@ void Grammar::addLockCommands() {
                                         return foldCommand(context, arguments.text, height);
                                     });
     addChoice(fold, "--height", _arguments.height, heightWords);
-    addTextCommand(
+    fold->footer("Such as\n  zdt fold \"system.screen_height - 100 - 20\" --height 2160");
+    CLI::App* expand = addTextCommand(
         "expand", "The picture names that a src of a lock screen layout stands for",
         [](const Context& context, const Arguments& arguments) { return expandCommand(context, arguments.text); });
+    expand->footer("Such as\n  zdt expand \"'number_'+system.time.hour1+'.png'\"");
     CLI::App* inspect =
         add("inspect", "What an MP4, PNG or JPEG holds, by its content",
             [](const Context& context, const Arguments& arguments) { return inspectCommand(context, arguments.file); });
-    inspect->add_option("FILE", _arguments.file, "The video or picture")->required();
+    inspect->add_option("FILE", _arguments.file, "The video or picture")->type_name("")->required();
 }
 
 /// A message as the author knows the arguments.
