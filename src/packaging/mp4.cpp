@@ -1,6 +1,6 @@
 #include "packaging/mp4.h"
 
-#include "packaging/plainFile.h"
+#include "support/plainFile.h"
 
 #include <algorithm>
 #include <array>

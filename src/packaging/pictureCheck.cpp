@@ -1,8 +1,8 @@
 #include "packaging/pictureCheck.h"
 
 #include "packaging/pictureReader.h"
-#include "packaging/plainFile.h"
 #include "packaging/uploadMessages.h"
+#include "support/plainFile.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "packaging/plainFile.h"
+#include "support/plainFile.h"
 
 #include <QByteArray>
 #include <QFile>

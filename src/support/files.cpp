@@ -1,6 +1,7 @@
 #include "support/files.h"
 
 #include "support/atomicFile.h"
+#include "support/plainFile.h"
 #include "support/text.h"
 
 #include <fcntl.h>
@@ -13,6 +14,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <memory>
+#include <utility>
 
 namespace zdt {
 
@@ -93,21 +95,12 @@ bool removeFile(const std::string& path) {
 }
 
 std::optional<std::string> readFile(const std::string& path, std::uint64_t maxBytes) {
-    // Without O_NONBLOCK a pipe would wait for somebody to write.
-    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (descriptor < 0)
+    const PlainFile file(path);
+    if (!file.isOpen() || file.size() > maxBytes)
         return std::nullopt;
-    std::optional<std::string> content;
-    struct stat status {};
-    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
-        static_cast<std::uint64_t>(status.st_size) <= maxBytes) {
-        content.emplace(static_cast<std::size_t>(status.st_size), '\0');
-        const ssize_t length = ::read(descriptor, content->data(), content->size());
-        if (length != status.st_size)
-            content.reset();
-    }
-    ::close(descriptor);
-    return content;
+    std::string content(static_cast<std::size_t>(file.size()), '\0');
+    return file.read(0, content.data(), content.size()) == content.size() ? std::optional(std::move(content))
+                                                                          : std::nullopt;
 }
 
 bool copyFile(const std::string& source, const std::string& destination, Flush flush) {

@@ -1,4 +1,4 @@
-#include "packaging/plainFile.h"
+#include "support/plainFile.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
