@@ -60,18 +60,12 @@ int setSimpleCommand(const Context& context, const std::string& name, const Shar
     const std::string text = joinKeyPath(setting.group) + "/" + setting.item;
     requireSettable(*theme, setting, text);
     requireKeepable(text, setting.value);
-    std::vector<std::pair<ResNode*, std::string>> before;
-    for (ResNode* each : theme->simpleSources(setting.group, setting.item))
-        before.emplace_back(each, each->value());
-    if (const int code = theme->setSimpleValue(setting.group, setting.item, setting.value))
+    const int code = theme->changeSimpleValue(setting.group, setting.item, setting.value);
+    if (code == returnCode::copyFailed)
+        throw Refusal(text, "it couldn't be written everywhere, and is as it was");
+    if (code != returnCode::success)
         throw Refusal(text, code);
-    if (theme->applySimple(setting.group, setting.item))
-        return 0;
-    // Some blocks may have been written; they get their old values back.
-    for (const auto& [node, value] : before)
-        node->setRawValue(value);
-    static_cast<void>(theme->applySimple(setting.group, setting.item));
-    throw Refusal(text, "it couldn't be written everywhere, and is as it was");
+    return 0;
 }
 
 } // namespace zdt

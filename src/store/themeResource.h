@@ -181,6 +181,9 @@ public:
     [[nodiscard]] int setSimpleValue(const KeyPath& keyPath, const std::string& name, const std::string& value);
     /// Writes the blocks of an item's sources. False if there is no such item or one of them can't be written.
     [[nodiscard]] bool applySimple(const KeyPath& keyPath, const std::string& name);
+    /// Both in one: sets the sources and writes their blocks. -3 if one can't be written; then the sources, and the
+    /// blocks that were written, have their old values again.
+    [[nodiscard]] int changeSimpleValue(const KeyPath& keyPath, const std::string& name, const std::string& value);
 
     // What the author adds. A node that was made for a file which is then refused is removed again.
 

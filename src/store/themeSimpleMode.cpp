@@ -51,4 +51,19 @@ bool ThemeResource::applySimple(const KeyPath& keyPath, const std::string& name)
     return item && item->save(true);
 }
 
+int ThemeResource::changeSimpleValue(const KeyPath& keyPath, const std::string& name, const std::string& value) {
+    std::vector<std::pair<ResNode*, std::string>> before;
+    for (ResNode* each : simpleSources(keyPath, name))
+        before.emplace_back(each, each->value());
+    if (const int code = setSimpleValue(keyPath, name, value))
+        return code;
+    if (applySimple(keyPath, name))
+        return returnCode::success;
+    for (const auto& [node, old] : before)
+        node->setRawValue(old);
+    // What couldn't be written just now still can't be; the others can.
+    static_cast<void>(applySimple(keyPath, name));
+    return returnCode::copyFailed;
+}
+
 } // namespace zdt
