@@ -1,9 +1,8 @@
 #include "kit/controlSearch.h"
 
-#include <QStringList>
+#include "kit/layoutError.h"
 
-#include <cstdio>
-#include <cstdlib>
+#include <QStringList>
 
 namespace zdt {
 
@@ -26,10 +25,8 @@ QStringList namesBelow(const QWidget& root) {
 } // namespace
 
 void controlMissing(const QWidget& root, const QString& name, const char* type) {
-    const QString message = QString("no control \"%1\" of class %2; there are: %3\n")
-                                .arg(name, QLatin1String(type), namesBelow(root).join(", "));
-    std::fputs(message.toUtf8().constData(), stderr);
-    std::abort();
+    throw LayoutError(QString("no control \"%1\" of class %2; there are: %3")
+                          .arg(name, QLatin1String(type), namesBelow(root).join(", ")));
 }
 
 } // namespace zdt

@@ -4,7 +4,7 @@
 
 namespace zdt {
 
-/// Ends the program with a message to standard error that names what was wanted and every control that `root` has.
+/// Throws a `LayoutError` that names what was wanted and every control that `root` has.
 [[noreturn]] void controlMissing(const QWidget& root, const QString& name, const char* type);
 
 /// The control of that object name, `root` itself or below it; null if there is none or it is of another class.
@@ -17,7 +17,8 @@ template <typename T>
     return root->findChild<T*>(name);
 }
 
-/// The same for a control that the program can't do without. A layout that lacks it is a programming error.
+/// The same for a control that a page can't do without. To be called while the page is made: a layout that lacks it
+/// throws a `LayoutError`.
 template <typename T>
 [[nodiscard]] T& FindControl(QWidget* root, const QString& name) {
     if (T* found = tryFindControl<T>(root, name))

@@ -8,6 +8,7 @@
 #include "kit/segmentedControl.h"
 #include "kit/skinLoader.h"
 #include "kit/switchControl.h"
+#include "kit/windowButton.h"
 
 namespace zdt {
 
@@ -29,6 +30,7 @@ void registerKitControls(SkinLoader& loader) {
     add<ZSearchField>(loader, "ZSearchField");
     add<ZSegmented>(loader, "ZSegmented");
     add<ZSwitch>(loader, "ZSwitch");
+    add<WindowButton>(loader, "WindowButton");
 }
 
 } // namespace zdt

@@ -36,7 +36,7 @@ Scrim::~Scrim() {
 void Scrim::cover() {
     const auto* framed = qobject_cast<const ZWindow*>(parentWidget());
     const int edge = framed && !framed->isMaximisedOrFull() ? 1 : 0;
-    const int top = framed ? token::titleBarHeight : 0;
+    const int top = framed ? framed->titleHeight() : 0;
     setGeometry(parentWidget()->rect().adjusted(edge, top, -edge, -edge));
 }
 

@@ -63,18 +63,24 @@ void SkinLoader::registerControl(const QString& className, Factory factory) {
     _controls[className] = std::move(factory);
 }
 
-SkinLoader::Result SkinLoader::load(const QString& name, QWidget* parent) const {
-    QFile file(name); // named in the error when there is no folder at all
-    for (const QString& folder : _folders) {
-        file.setFileName(QDir(folder).filePath(name));
-        if (file.exists())
-            break;
-    }
+SkinLoader::Result SkinLoader::loadFile(const QString& path, QWidget* parent) const {
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return failed(file.fileName(), file.errorString());
+        return failed(path, file.errorString());
     if (file.size() > maximumLayout)
-        return failed(file.fileName(), "too large for a layout");
-    return loadText(file.readAll(), file.fileName(), parent);
+        return failed(path, "too large for a layout");
+    return loadText(file.readAll(), path, parent);
+}
+
+SkinLoader::Result SkinLoader::load(const QString& name, QWidget* parent) const {
+    QStringList errors;
+    for (const QString& folder : _folders) {
+        Result result = loadFile(QDir(folder).filePath(name), parent);
+        if (result.widget)
+            return result;
+        errors += result.error;
+    }
+    return failed(name, errors.isEmpty() ? "no folder for layouts" : errors.join("; "));
 }
 
 SkinLoader::Result SkinLoader::loadText(const QByteArray& layout, const QString& name, QWidget* parent) const {

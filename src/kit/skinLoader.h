@@ -21,20 +21,24 @@ public:
         QString error;
     };
 
-    /// A layout is taken from the first of `folders` that has it. The kit's own controls are known from the start.
+    /// Layouts are taken from `folders`, the first of them first. The kit's own controls are known from the start.
     explicit SkinLoader(QStringList folders);
 
     /// Makes a class known by the name under which layouts use it; a later one replaces an earlier one.
     void registerControl(const QString& className, Factory factory);
 
-    /// `name` is a file name such as `skin.xml`. Buttons and tool buttons get the icons that their property `iconName`
-    /// names. A file that is missing, cut or uses an unknown class gives an error; nothing of it is left then.
+    /// `name` is a file name such as `skin.xml`. Of several folders that have it, the first counts whose layout is
+    /// good: one that an author changed and broke doesn't keep the program from its own. Buttons and tool buttons get
+    /// the icons that their property `iconName` names. A file that is missing, cut or uses an unknown class gives an
+    /// error; nothing of it is left then.
     [[nodiscard]] Result load(const QString& name, QWidget* parent = nullptr) const;
 
     /// The same from a text; `name` only stands in errors.
     [[nodiscard]] Result loadText(const QByteArray& layout, const QString& name, QWidget* parent = nullptr) const;
 
 private:
+    [[nodiscard]] Result loadFile(const QString& path, QWidget* parent) const;
+
     QStringList _folders;
     std::map<QString, Factory> _controls;
 };

@@ -1,47 +1,38 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QPointer>
+#include <QVBoxLayout>
 #include <QWidget>
 
 #include <vector>
 
-class QHBoxLayout;
-class QVBoxLayout;
-
 namespace zdt {
 
 class ZBaseDialog;
-class WindowButton;
 
-/// A main window that draws its own frame: a title bar 48 high that drags and maximises it, three window buttons, an
-/// edge of one pixel, and eight places at the edges that resize it. Children: `titleBar`, `titleActions`,
-/// `minimiseButton`, `maximiseButton`, `closeButton`.
+/// A main window that draws its own frame: an edge of one pixel, and eight places at the edges that resize it. What
+/// fills it comes from a layout, with these controls in it, any of which may be missing:
+///
+/// - `TOP_TAB_BAR`: the title bar, whose empty parts drag the window and whose double click maximises it.
+/// - `titleActions`: what the title bar holds besides the window buttons; off while a dialog is open.
+/// - `minbtn`, `maxbtn`, `restorebtn`, `closebtn`. Of the second and third, that one is seen that does something.
 class ZWindow : public QWidget {
     Q_OBJECT
 
 public:
     explicit ZWindow(QWidget* parent = nullptr);
 
-    /// Replaces what fills the window below the title bar, and deletes what stood there.
-    void setContent(QWidget* content);
-    [[nodiscard]] QWidget* content() const { return _content; }
+    /// Fills the window, for which it is called once.
+    void setFrame(QWidget* frame);
 
-    /// Holds what a window puts into its title bar, left of the window buttons. Off while a dialog is open.
-    [[nodiscard]] QWidget* titleActions() const { return _actions; }
-    [[nodiscard]] QHBoxLayout* titleLayout() const { return _actionRow; }
-
-    /// Tips and accessible names of the window buttons in the language of the window.
-    struct ButtonTexts {
-        QString minimise;
-        QString maximise;
-        QString restore;
-        QString close;
-    };
-    void setButtonTexts(const ButtonTexts& texts);
+    /// How much of the window's top its title bar takes; a dialog dims what lies below.
+    [[nodiscard]] int titleHeight() const;
 
     /// Called by dialogs that open and close inside this window.
     void dialogOpened(ZBaseDialog* dialog);
     void dialogClosed(ZBaseDialog* dialog);
+    [[nodiscard]] bool hasDialog() const { return !_dialogs.empty(); }
 
     [[nodiscard]] bool isMaximisedOrFull() const;
     void toggleMaximised();
@@ -53,19 +44,14 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void makeTitleBar();
     void showState();
     [[nodiscard]] bool leaveDialogs();
 
     QVBoxLayout* _column;
-    QWidget* _titleBar;
-    QWidget* _actions;
-    QHBoxLayout* _actionRow;
-    WindowButton* _minimise;
-    WindowButton* _maximise;
-    WindowButton* _close;
-    QPointer<QWidget> _content;
-    ButtonTexts _texts;
+    QPointer<QWidget> _titleBar;
+    QPointer<QWidget> _actions;
+    QPointer<QAbstractButton> _maximise;
+    QPointer<QAbstractButton> _restore;
     std::vector<ZBaseDialog*> _dialogs;
 };
 

@@ -11,46 +11,30 @@ namespace {
 
 constexpr int side = 10;
 
-void paintSign(QPainter& painter, WindowButton::Kind kind, const QRectF& box) {
-    switch (kind) {
-    case WindowButton::Kind::Minimise:
+void paintSign(QPainter& painter, const QString& sign, const QRectF& box) {
+    if (sign == "minimise") {
         painter.drawLine(QPointF(box.left(), box.center().y()), QPointF(box.right(), box.center().y()));
-        break;
-    case WindowButton::Kind::Maximise:
+    } else if (sign == "maximise") {
         painter.drawRect(box.adjusted(0, 0, -1, -1));
-        break;
-    case WindowButton::Kind::Restore:
+    } else if (sign == "restore") {
         painter.drawRect(box.adjusted(0, 2, -3, -1));
         painter.drawPolyline(
             QPolygonF({box.topLeft() + QPointF(2, 2), box.topLeft() + QPointF(2, 0), box.topRight() + QPointF(-1, 0),
                        box.bottomRight() + QPointF(-1, -3), box.bottomRight() + QPointF(-3, -3)}));
-        break;
-    case WindowButton::Kind::Close:
+    } else {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(painter.pen().color(), 1.2));
         painter.drawLine(box.topLeft(), box.bottomRight());
         painter.drawLine(box.topRight(), box.bottomLeft());
-        break;
     }
 }
 
 } // namespace
 
-WindowButton::WindowButton(Kind kind, QWidget* parent)
-    : QAbstractButton(parent)
-    , _kind(kind) {
+WindowButton::WindowButton(QWidget* parent)
+    : QAbstractButton(parent) {
     setFocusPolicy(Qt::NoFocus);
     setFixedSize(46, token::titleBarHeight - 1);
-}
-
-void WindowButton::setKind(Kind kind) {
-    _kind = kind;
-    update();
-}
-
-void WindowButton::setTexts(const QString& text) {
-    setToolTip(text);
-    setAccessibleName(text);
 }
 
 bool WindowButton::event(QEvent* event) {
@@ -61,7 +45,7 @@ bool WindowButton::event(QEvent* event) {
 
 void WindowButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const bool closing = _kind == Kind::Close;
+    const bool closing = _sign == "close";
     const bool hot = underMouse() || isDown();
     if (hot && closing)
         painter.fillRect(rect(), isDown() ? token::closePressed : token::closeHover);
@@ -70,7 +54,7 @@ void WindowButton::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(hot && closing ? token::card : token::text, 1));
     const QPoint corner((width() - side) / 2, (height() - side) / 2 + 1);
     // Half a pixel in, so that lines of one pixel fill one row each.
-    paintSign(painter, _kind, QRectF(corner, QSize(side, side)).translated(0.5, 0.5));
+    paintSign(painter, _sign, QRectF(corner, QSize(side, side)).translated(0.5, 0.5));
 }
 
 } // namespace zdt

@@ -301,13 +301,6 @@ int main(int argc, char* argv[]) {
     window.setWindowTitle("gallery");
     window.setMinimumSize(1024, 740);
     window.resize(1280, 775);
-    window.setButtonTexts({"Minimise", "Maximise", "Restore", "Close"});
-    auto* title = new QLabel("Gallery");
-    title->setProperty("type", "name");
-    window.titleLayout()->addWidget(title, 1);
-    auto* language = new ZSegmented;
-    language->setLabels({"中文", "EN"});
-    window.titleLayout()->addWidget(language);
     auto* content = new QWidget;
     auto* columns = new QHBoxLayout(content);
     auto* grid = new QGridLayout;
@@ -317,7 +310,7 @@ int main(int argc, char* argv[]) {
     columns->addLayout(grid, 3);
     columns->addWidget(middleColumn(), 3);
     columns->addWidget(rightColumn(rows, cards), 4);
-    window.setContent(content);
+    window.setFrame(content);
     window.show();
     QTimer::singleShot(300, &window, [&] { overlay(window, arguments.value(2)); });
     return QApplication::exec();

@@ -2,6 +2,7 @@
 
 #include "common/fixtures.h"
 #include "kit/controlSearch.h"
+#include "kit/layoutError.h"
 #include "kit/listView.h"
 #include "kit/segmentedControl.h"
 #include "kit/textLookup.h"
@@ -71,6 +72,10 @@ TEST(SkinLoader, ReadsFilesOfItsFolderAndTellsOfMissingOnes) {
     folder.write("skin.xml", form("").toStdString());
     const SkinLoader loader(QStringList{"/nowhere/", QString::fromStdString(folder.path())});
     EXPECT_TRUE(loader.load("skin.xml").widget);
+    folder.write("broken/skin.xml", "<ui");
+    const QString broken = QString::fromStdString(folder.path("broken/"));
+    EXPECT_TRUE(SkinLoader({broken, QString::fromStdString(folder.path())}).load("skin.xml").widget);
+    EXPECT_FALSE(SkinLoader({broken}).load("skin.xml").widget);
     const auto missing = loader.load("nothing.xml");
     EXPECT_FALSE(missing.widget);
     EXPECT_TRUE(missing.error.contains("nothing.xml"));
@@ -84,16 +89,17 @@ TEST(SkinLoader, UsesTheFactoryThatWasRegistered) {
     EXPECT_EQ(FindControl<QLabel>(page.widget.get(), "preview").text(), "ours");
 }
 
-TEST(FindControlDeathTest, ListsTheNamesThatExist) {
-    testing::FLAGS_gtest_death_test_style = "threadsafe";
-    EXPECT_DEATH(
-        {
-            QWidget root;
-            root.setObjectName("page");
-            (new QLabel(&root))->setObjectName("title");
-            (void)FindControl<QPushButton>(&root, "export");
-        },
-        "no control \"export\" of class QPushButton; there are: page \\(QWidget\\), title \\(QLabel\\)");
+TEST(FindControl, ListsTheNamesThatExist) {
+    QWidget root;
+    root.setObjectName("page");
+    (new QLabel(&root))->setObjectName("title");
+    try {
+        (void)FindControl<QPushButton>(&root, "export");
+        FAIL() << "found what isn't there";
+    } catch (const LayoutError& error) {
+        EXPECT_STREQ(error.what(),
+                     "no control \"export\" of class QPushButton; there are: page (QWidget), title (QLabel)");
+    }
 }
 
 TEST(Relabel, GivesEveryPropertyItsTextAndFollowsTheLanguage) {
