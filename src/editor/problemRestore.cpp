@@ -46,6 +46,11 @@ int codeOf(bool written) {
     return written ? returnCode::success : returnCode::copyFailed;
 }
 
+/// The version it tells becomes that of the theme's generation.
+bool writeDescription(ThemeResource& theme) {
+    return theme.version() < generationCount ? theme.changeGeneration(theme.version()) : theme.applyNode({});
+}
+
 int startDesign(ThemeResource& theme) {
     theme.startLockDesign();
     return codeOf(theme.applyNode(lockDesignKey));
@@ -99,14 +104,13 @@ int restoreProblem(ThemeResource& theme, const Problem& problem) {
     case ProblemRestore::block:
         return codeOf(theme.applyNode(node->keyPath()));
     case ProblemRestore::description:
-        return codeOf(theme.applyNode({}));
+    case ProblemRestore::version:
+        return codeOf(writeDescription(theme));
     case ProblemRestore::lockKind:
         return theme.setLockScreenType(unlockType::amazing);
     case ProblemRestore::lockLayout:
     case ProblemRestore::lockDesign:
         return startDesign(theme);
-    case ProblemRestore::version:
-        return codeOf(theme.changeGeneration(theme.version()));
     }
     return returnCode::cannotRemove;
 }
