@@ -19,15 +19,15 @@ void ZFlowView::measure() {
         _least = source->cellSize().expandedTo({1, 1});
         _gap = std::max(0, source->gap());
     }
-    const int room = viewport()->width() - 2 * _side;
-    _columns = std::max(1, (room + _gap) / (_least.width() + _gap));
+    // The scroll bar lies in the margin, so that cards stay where they are when it comes.
+    _room = std::max(_least.width(), std::min(width() - 2 * _side, viewport()->width() - _side));
+    _columns = std::max(1, (_room + _gap) / (_least.width() + _gap));
 }
 
 QRect ZFlowView::cellPlace(int index) const {
-    const int room = std::max(_least.width(), viewport()->width() - 2 * _side);
     const int column = index % _columns;
     // Edges are rounded, not widths, so that the last column ends exactly at the margin.
-    const auto edge = [&](int at) { return _side + at * (room + _gap) / _columns; };
+    const auto edge = [&](int at) { return _side + at * (_room + _gap) / _columns; };
     const int top = _end + index / _columns * (_least.height() + _gap);
     return {edge(column), top, edge(column + 1) - _gap - edge(column), _least.height()};
 }

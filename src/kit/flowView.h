@@ -31,6 +31,7 @@ protected:
 private:
     QSize _least{1, 1};
     int _gap = 0;
+    int _room = 1; ///< Width of a row of cards.
     int _columns = 1;
     int _side = 0;
     int _end = 0;

@@ -1,5 +1,6 @@
 #include "kit/kitControls.h"
 
+#include "kit/countButton.h"
 #include "kit/emptyState.h"
 #include "kit/flowView.h"
 #include "kit/labels.h"
@@ -23,6 +24,7 @@ void add(SkinLoader& loader, const char* className) {
 
 void registerKitControls(SkinLoader& loader) {
     add<ZBadge>(loader, "ZBadge");
+    add<ZCountButton>(loader, "ZCountButton");
     add<ZElidedLabel>(loader, "ZElidedLabel");
     add<ZEmptyState>(loader, "ZEmptyState");
     add<ZFlowView>(loader, "ZFlowView");

@@ -25,6 +25,8 @@ namespace {
 
 /// The style sheet leaves 4 between icon and text; the rest of the 6 belongs to the icon.
 constexpr int iconGap = 2;
+/// The rows of a navigation have 12.
+constexpr int navigationGap = 8;
 
 void applyPalette(QApplication& application) {
     QPalette palette;
@@ -45,6 +47,8 @@ void applyPalette(QApplication& application) {
 QColor plainColour(const QString& kind) {
     if (kind == "filled")
         return token::card;
+    if (kind == "navigation")
+        return token::iconNavigation;
     return kind == "danger" ? token::dangerText : token::iconPlain;
 }
 
@@ -92,9 +96,11 @@ void setStyleProperty(QWidget* widget, const char* name, const QVariant& value) 
 
 void setButtonIcon(QAbstractButton* button, Icon which, int size) {
     const QString kind = button->property("kind").toString();
-    button->setIcon(icon(which, plainColour(kind), kind == "toggle" ? token::accentText : plainColour(kind)));
+    const bool marksChoice = kind == "toggle" || kind == "navigation";
+    const int gap = kind == "navigation" ? navigationGap : iconGap;
+    button->setIcon(icon(which, plainColour(kind), marksChoice ? token::accentText : plainColour(kind)));
     const bool alone = button->text().isEmpty() && !button->property("textKey").isValid();
-    button->setIconSize(QSize(alone ? size : size + iconGap, size));
+    button->setIconSize(QSize(alone ? size : size + gap, size));
     setStyleProperty(button, "withIcon", alone ? "alone" : "text");
 }
 
