@@ -222,6 +222,7 @@ void CResEditOutPutDlg::sayFoot() {
         open += countText("kExport_fields", wrong);
     if (_problems > 0)
         open += countText("kExport_problems", _problems);
+    _openPoints.setVisible(!open.isEmpty());
     _openPoints.tell("error", open.isEmpty() ? QString() : TextWith("kExport_solve_first", open.join(", ")));
 }
 

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int padding = 32;
 constexpr int topPadding = 16;
-constexpr int leastGap = 27;
+constexpr int leastGap = 26;
 constexpr int headHeight = 28;
 constexpr int headGap = 12;
 constexpr int rowGap = 24;
