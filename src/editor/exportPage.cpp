@@ -1,6 +1,7 @@
 #include "editor/exportPage.h"
 
 #include "editor/exportValues.h"
+#include "editor/previewCard.h"
 #include "editor/stateLine.h"
 #include "kit/localisation.h"
 #include "kit/messageBoxDlg.h"
@@ -95,7 +96,9 @@ void CResEditOutPutDlg::Notify(const Notification& message) {
     if (message.name == notify::Add_Multi_Wallpaper_Notify && isVisible()) {
         _previews.refresh();
     } else if (message.name == notify::Replace_Picture_Notify && message.lParam != 0 && !message.async) {
-        if (const QStringList& parts = *listOf(message); parts.size() == 2 && _previews.board().card(parts[0]))
+        const QStringList& parts = *listOf(message);
+        const PreviewCard* card = parts.size() == 2 ? _previews.board().card(parts[0]) : nullptr;
+        if (card && !card->isDrawn())
             _previews.replace(parts[0], parts[1]);
     } else if (message.name == notify::Notify_Drag_File && message.lParam != 0 && !message.async && isVisible()) {
         _previews.takeDropped(*listOf(message));
@@ -132,11 +135,14 @@ bool CResEditOutPutDlg::isFormRight() {
 bool CResEditOutPutDlg::storeValues() {
     const unsigned before = theme()->version();
     const bool isStored = storeExportValues(*theme(), _fields.form());
-    if (theme()->version() != before) // Other sizes are asked for, and other previews shown.
+    const bool isMoved = theme()->version() != before;
+    if (isMoved) // Other sizes are asked for, and other previews shown.
         _previews.refresh();
+    _previews.finish();
     if (!isStored)
         warn("kExport_not_stored");
-    _previews.finish();
+    if (!isStored && isMoved)
+        emit valuesStored();
     return isStored;
 }
 

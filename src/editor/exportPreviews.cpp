@@ -41,8 +41,9 @@ QString sizeText(const QSize& size) {
     return QString("%1*%2").arg(size.width()).arg(size.height());
 }
 
+/// Empty if the folder couldn't be made.
 std::string folderPath(const QTemporaryDir& folder) {
-    return folder.path().toStdString() + "/";
+    return folder.isValid() ? folder.path().toStdString() + "/" : std::string();
 }
 
 } // namespace

@@ -50,6 +50,7 @@ public:
 
     /// The picture's file name; also names the controls: `card_…`, `replace_…`.
     [[nodiscard]] const QString& name() const { return _name; }
+    [[nodiscard]] bool isDrawn() const { return !_button; }
     void setCaption(const QString& caption);
     /// The size in words, told by tool tip, or in the place of the button.
     void setSizeText(const QString& text);

@@ -23,7 +23,7 @@ RenderedPicture render(const QImage& picture, const RenderTarget& target, const 
     if (!target.current.empty() && readFile(target.current, previewMaxBytes) == bytes)
         return {target.name, true, {}};
     const std::string file = folder + target.name;
-    return {target.name, writeFile(file, bytes), file};
+    return {target.name, !folder.empty() && writeFile(file, bytes), file};
 }
 
 } // namespace

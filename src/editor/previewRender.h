@@ -36,8 +36,8 @@ struct RenderedPicture {
     std::string file; ///< The new one; empty if the current one is the same.
 };
 
-/// Draws all targets from one picture, as files of at most `previewMaxBytes` in `folder`, which ends in "/". A source
-/// that can't be read, or was cut, makes none.
+/// Draws all targets from one picture, as files of at most `previewMaxBytes` in `folder`, which ends in "/" and is
+/// empty for none. A source that can't be read, or was cut, makes no picture.
 [[nodiscard]] std::vector<RenderedPicture>
 renderPreviews(const std::string& source, const std::vector<RenderTarget>& targets, const std::string& folder);
 

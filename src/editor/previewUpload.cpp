@@ -41,7 +41,10 @@ QSize sizeOf(const SizeRange& range) {
     return {static_cast<int>(range.minWidth), static_cast<int>(range.minHeight)};
 }
 
-PreparedPreview converted(const std::string& file, const QSize& size, const std::string& target) {
+PreparedPreview converted(const std::string& file, const QSize& size, const std::string& folder,
+                          const std::string& name) {
+    if (folder.empty())
+        return refused("kProblem_17");
     QImage picture = loadPicture(file);
     if (picture.isNull())
         return refused(KWarn_upload_JPGPNG);
@@ -50,7 +53,7 @@ PreparedPreview converted(const std::string& file, const QSize& size, const std:
     const std::string bytes = encodeWithin(picture, previewMaxBytes);
     if (bytes.empty())
         return refused(kWarn_upload_lessthenone300_pic);
-    return writeFile(target, bytes) ? PreparedPreview{{}, target} : refused("kProblem_3");
+    return writeFile(folder + name, bytes) ? PreparedPreview{{}, folder + name} : refused("kProblem_3");
 }
 
 } // namespace
@@ -71,7 +74,7 @@ PreparedPreview preparePreview(const std::string& file, const PreviewTarget& tar
     const QSize wanted = sizeOf(previewSize(target.name, target.tall));
     if (isJpeg(file) && size == wanted && fileSize(file) <= previewMaxBytes && extension(file) == ".jpg")
         return {{}, file};
-    return converted(file, wanted, folder + target.name);
+    return converted(file, wanted, folder, target.name);
 }
 
 } // namespace zdt

@@ -22,7 +22,8 @@ struct PreparedPreview {
 [[nodiscard]] QSize uploadSize(bool tall);
 
 /// Tests a picture: kind, at most 300 KB, and exactly `uploadSize`. One that isn't a JPEG of the size and bytes that
-/// the target asks for is made one, as a file in `folder`, which ends in "/".
+/// the target asks for is made one, as a file in `folder`, which ends in "/" and
+/// is empty for none.
 [[nodiscard]] PreparedPreview preparePreview(const std::string& file, const PreviewTarget& target,
                                              const std::string& folder);
 

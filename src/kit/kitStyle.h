@@ -16,7 +16,7 @@ enum class Icon : char16_t;
 /// without it.
 bool applyKitStyle(QApplication& application, const QStringList& skinFolders);
 
-/// Sets a property that the style sheet asks for (`kind`, `state`, `size`, …) and shows its effect at once.
+/// Sets a property that the style sheet asks for (`kind`, `state`, `scale`, …) and shows its effect at once.
 void setStyleProperty(QWidget* widget, const char* name, const QVariant& value);
 
 /// Puts an icon before a button's text, in the colours of its `kind`, which is set before. 18 logical pixels high.

@@ -321,6 +321,17 @@ TEST_F(ExportPageTest, FolderThatTakesNoPackageIsToldAndThePageStays) {
     EXPECT_EQ(stored->count(), 1);
 }
 
+TEST_F(ExportPageTest, ValuesThatCannotBeWrittenAreToldAndStayTyped) {
+    openGood();
+    std::filesystem::remove(store.path("res/Aurora/description.xml"));
+    store.write("res/Aurora/description.xml/in the way", "");
+    pressOk({"messageAccept"});
+    EXPECT_EQ(said, QStringList{Text("kExport_not_stored")});
+    EXPECT_NE(bench.theme()->getValue({}, "title"), "Aurora");
+    EXPECT_EQ(text("ResOutDlgENThemeName"), "Aurora");
+    EXPECT_TRUE(done->isEmpty() && stored->isEmpty());
+}
+
 TEST_F(ExportPageTest, ReplacedLockPreviewIsDrawnAgain) {
     openGood();
     const std::string cover = previewBytes("cover.jpg");

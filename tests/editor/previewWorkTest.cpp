@@ -89,6 +89,8 @@ TEST_F(PreviewWork, DrawingsFitTheirPlacesAndAreMadeOnce) {
     const std::string cut = folder.write("cut.jpg", bytes.substr(0, bytes.size() / 2));
     for (const std::string& bad : {cut, folder.path("none.jpg"), std::string()})
         EXPECT_FALSE(renderPreviews(bad, targets, out)[0].isMade) << bad;
+    targets[0].current.clear();
+    EXPECT_FALSE(renderPreviews(source, targets, {})[0].isMade) << "no folder to work in";
 }
 
 TEST_F(PreviewWork, UploadsAreTakenOrRefusedWithAMessage) {
@@ -127,6 +129,7 @@ TEST_F(PreviewWork, UploadsAreTakenOrRefusedWithAMessage) {
         }
     }
     EXPECT_EQ(preparePreview(good, {name, true}, out).file, good) << "what fits is taken as it is";
+    EXPECT_EQ(preparePreview(folder.path("plain.png"), {name, true}, {}).message, "kProblem_17");
 }
 
 TEST_F(PreviewWork, PngThatMakesTooLargeAJpegIsRefused) {
