@@ -194,9 +194,16 @@ CMainFrameWnd::Tab CMainFrameWnd::tab() const {
 void CMainFrameWnd::showTab(Tab tab) {
     _tabs.setCurrentIndex(static_cast<int>(tab));
     _titles.setCurrentIndex(static_cast<int>(tab));
-    // What has the keyboard must be on the page that is seen.
-    if (_tabs.currentWidget() && !_tabs.currentWidget()->isAncestorOf(focusWidget()))
-        _tabs.currentWidget()->setFocus();
+    // What has the keyboard must be on the page that is seen: the first thing that takes it.
+    QWidget* page = _tabs.currentWidget();
+    if (page->isAncestorOf(focusWidget()))
+        return;
+    for (QWidget* next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain()) {
+        if (page->isAncestorOf(next) && next->isVisible() && (next->focusPolicy() & Qt::TabFocus)) {
+            next->setFocus();
+            return;
+        }
+    }
 }
 
 void CMainFrameWnd::showTitle() {

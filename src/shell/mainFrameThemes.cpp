@@ -1,6 +1,7 @@
 #include "shell/mainFrame.h"
 
 #include "editor/exportPage.h"
+#include "kit/layoutError.h"
 #include "kit/localisation.h"
 #include "kit/messageBoxes.h"
 #include "kit/notificationNames.h"
@@ -51,8 +52,12 @@ QString shown(const std::string& text) {
 } // namespace
 
 void CMainFrameWnd::newTheme() {
-    const std::optional<NewTheme> wanted =
-        CNewThemeDialog::ask(_bench, ThemeResource::listThemes(_bench.root()), this);
+    std::optional<NewTheme> wanted;
+    try {
+        wanted = CNewThemeDialog::ask(_bench, ThemeResource::listThemes(_bench.root()), this);
+    } catch (const LayoutError& error) {
+        tellNote(this, "kWindow_layout_damaged", {QString::fromUtf8(error.what())});
+    }
     if (wanted)
         createTheme(*wanted);
 }
