@@ -62,12 +62,6 @@ void CEditorPages::prepare() {
     makeProblems();
 }
 
-void CEditorPages::start() {
-    prepare();
-    showKind();
-    showFirst();
-}
-
 void CEditorPages::showFirst() {
     const bool isBig = _bench.theme() && _bench.theme()->isBigTheme();
     showModule(isBig ? "commonSetting" : "icons");

@@ -28,8 +28,7 @@ public:
     /// @param frame holds the rows and, named `ResMainBussinessLayout`, the place of the pages
     CEditorPages(Workbench& bench, QWidget* frame);
 
-    /// Shows the first page of the open theme and its problems in the navigation.
-    void start();
+    /// Shows the first page of the open theme.
     void showFirst();
     void showModule(const QString& module);
     void showProblems();

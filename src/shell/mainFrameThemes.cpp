@@ -134,11 +134,11 @@ bool CMainFrameWnd::askGeneration(const std::string& name) {
 void CMainFrameWnd::enterEditor() {
     CPaintManagerUI& hub = _bench.notifications();
     hub.SendNotify(this, notify::Notify_ChangeTheme);
+    _pages->prepare();
+    hub.SendNotify(this, notify::Notify_ReloadDataMsg);
     showKind();
-    _pages->start();
+    _pages->showFirst();
     showTab(Tab::editor);
-    // The list of problems takes longer than the page, which is seen first.
-    hub.SendNotify(this, notify::Notify_Error_List_refresh, 0, 0, true);
 }
 
 void CMainFrameWnd::returnToStart() {

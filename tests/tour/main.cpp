@@ -72,9 +72,9 @@ void addChanging(tour::Script& script, const QString& out) {
     script.type("keySearch", "message_pop_send_bg_color_theme_adapter");
     script.key("keySearch", Qt::Key_Down);
     script.key("keyList", Qt::Key_Return);
-    script.type("keyHex", "B8F2E6");
+    script.type("editHex", "B8F2E6");
     script.shot("colour-en");
-    script.key("keyHex", Qt::Key_Return);
+    script.key("editHex", Qt::Key_Return);
     script.click("nav_icons");
     script.type("keySearch", "com.android.browser.png");
     script.key("keySearch", Qt::Key_Down);
@@ -89,13 +89,13 @@ void addChanging(tour::Script& script, const QString& out) {
 void addMending(tour::Script& script, const QString& out) {
     script.act("lose two pictures", [out] {
         QFile::remove(themeFolder(out) + "/icons/com.android.camera.png");
-        QFile::resize(themeFolder(out) + "/icons/com.android.calendar.png", 100);
+        QFile::resize(themeFolder(out) + "/icons/com.android.calendar.png", 10);
     });
     script.click("ResGlobleErrorBtn");
-    script.click("problemCheck");
+    script.click("problemCheckAgain");
     script.shot("problems-en");
-    script.key("ResEditErrorHorLayout", Qt::Key_Delete);
-    script.key("ResEditErrorHorLayout", Qt::Key_Delete);
+    script.click("restore");
+    script.click("restore");
     script.shot("problems-none-en");
 }
 
@@ -131,7 +131,7 @@ void addChinese(tour::Script& script) {
     script.shot("start-cn");
     script.click("ThemeResNewBtn");
     script.shot("new-cn");
-    script.key("", Qt::Key_Escape);
+    script.click("newCancel");
     script.click("aboutBtn");
     script.shot("about-cn");
     script.click("aboutbackBtn");

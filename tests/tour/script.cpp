@@ -14,7 +14,7 @@ namespace zdt::tour {
 namespace {
 
 constexpr int pause = 60;        ///< Between two steps, in milliseconds.
-constexpr int patience = 30'000; ///< Until a step that can't begin ends the tour.
+constexpr int patience = 12'000; ///< Until a step that can't begin ends the tour.
 
 } // namespace
 
@@ -50,6 +50,8 @@ void Script::type(const QString& name, const QString& text) {
             QWidget* field = seen(name);
             field->setFocus();
             QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+            if (text.isEmpty())
+                QTest::keyClick(field, Qt::Key_Delete);
             // An input method brings what no key of the keyboard has.
             QInputMethodEvent input;
             input.setCommitString(text);
@@ -108,6 +110,7 @@ void Script::tick() {
     if (!step.ready()) {
         if (_waiting.elapsed() > patience) {
             std::fprintf(stderr, "tour: stuck before: %s\n", qPrintable(step.what));
+            QApplication::primaryScreen()->grabWindow(0).save(_folder + "/stuck.png");
             _done(false);
             return;
         }
