@@ -56,13 +56,6 @@ std::string_view checkEnglishName(const std::string& text) {
     return name.size() > longestEnglishName ? exportMessage::longEnglishName : std::string_view();
 }
 
-std::string_view checkChineseName(const std::string& text) {
-    const std::u32string name = toCodePoints(text);
-    if (holdsForbidden(name, forbiddenInChinese))
-        return exportMessage::forbiddenChineseSign;
-    return name.size() > longestChineseName ? exportMessage::longChineseName : std::string_view();
-}
-
 bool holds(const std::string& name, std::string_view tag) {
     return name.find(tag) != std::string::npos;
 }
@@ -72,6 +65,13 @@ bool holds(const std::string& name, std::string_view tag) {
 const ExportTarget& exportTarget(unsigned generation) {
     ZDT_ASSERT(generation < targets.size(), "exportForm");
     return targets[generation];
+}
+
+std::string_view checkChineseName(const std::string& text) {
+    const std::u32string name = toCodePoints(text);
+    if (holdsForbidden(name, forbiddenInChinese))
+        return exportMessage::forbiddenChineseSign;
+    return name.size() > longestChineseName ? exportMessage::longChineseName : std::string_view();
 }
 
 std::vector<FormProblem> exportProblems(const ExportForm& form) {

@@ -68,6 +68,9 @@ struct FormProblem {
 /// The key of the message for the first thing that is wrong; empty if the form may be exported.
 [[nodiscard]] std::string_view checkExportForm(const ExportForm& form);
 
+/// The key of the message for what is wrong with a Chinese name that isn't empty; empty if nothing is.
+[[nodiscard]] std::string_view checkChineseName(const std::string& name);
+
 /// The whole version of a package, such as "9.0.100".
 [[nodiscard]] std::string fullVersion(const ExportForm& form);
 

@@ -15,6 +15,12 @@
 
 namespace zdt {
 
+namespace {
+
+constexpr int noteSide = 16;
+
+} // namespace
+
 ZBaseDialog::ZBaseDialog(QWidget* parent)
     : QDialog(nullptr, Qt::Dialog | Qt::FramelessWindowHint)
     , _owner(parent)
@@ -23,6 +29,7 @@ ZBaseDialog::ZBaseDialog(QWidget* parent)
     , _close(new QPushButton(_head))
     , _body(new QVBoxLayout)
     , _foot(new QWidget(this))
+    , _noteSign(new QLabel(_foot))
     , _note(new QLabel(_foot))
     , _buttons(new QHBoxLayout) {
     auto* column = new QVBoxLayout(this);
@@ -70,6 +77,9 @@ void ZBaseDialog::makeFoot() {
     auto* row = new QHBoxLayout(_foot);
     row->setContentsMargins(token::dialogPadding, 0, token::dialogPadding, 0);
     row->setSpacing(8);
+    _noteSign->setPixmap(iconPixmap(Icon::InfoOutline, token::iconPlain, noteSide, devicePixelRatioF()));
+    _noteSign->hide();
+    row->addWidget(_noteSign);
     row->addWidget(_note, 1);
     row->addLayout(_buttons);
     _buttons->setSpacing(8);
@@ -98,6 +108,7 @@ QPushButton* ZBaseDialog::addButton(const QString& text, const QString& name, co
 
 void ZBaseDialog::setNote(const QString& note) {
     _note->setText(note);
+    _noteSign->setVisible(!note.isEmpty());
     _foot->show();
 }
 

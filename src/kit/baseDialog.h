@@ -31,7 +31,7 @@ public:
     /// Adds a button at the right of the foot, which shows once it has one; at least 88 wide. `kind` as in the style
     /// sheet.
     QPushButton* addButton(const QString& text, const QString& name, const QString& kind = {});
-    /// A note at the left of the foot.
+    /// A note at the left of the foot, behind a small sign.
     void setNote(const QString& note);
     /// False for a dialog that can only be left by its buttons: no close button, and Escape does nothing.
     void setClosable(bool closable);
@@ -62,6 +62,7 @@ private:
     QPushButton* _close;
     QVBoxLayout* _body;
     QWidget* _foot;
+    QLabel* _noteSign;
     QLabel* _note;
     QHBoxLayout* _buttons;
     QPoint _held;

@@ -3,6 +3,7 @@
 #include "kit/tokens.h"
 
 #include <QPainter>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -12,12 +13,26 @@ void ZListView::setSource(ZListViewDataSource* source) {
     setCellSource(source);
 }
 
+void ZListView::setSideMargin(int margin) {
+    _sideMargin = margin;
+    relayout();
+}
+
+/// The rows are as wide with a scroll bar as without.
+void ZListView::keepSideMargin() {
+    const int bar = contentHeight() > maximumViewportSize().height() ? verticalScrollBar()->sizeHint().width() : 0;
+    const QMargins wanted(_sideMargin, 0, std::max(0, _sideMargin - bar), 0);
+    if (_sideMargin > 0 && viewportMargins() != wanted)
+        setViewportMargins(wanted);
+}
+
 void ZListView::measure() {
     _ends.clear();
     const auto* source = static_cast<const ZListViewDataSource*>(cellSource());
     int end = 0;
     for (int index = 0; index < count(); ++index)
         _ends.push_back(end += std::max(1, source->rowHeight(index)));
+    keepSideMargin();
 }
 
 QRect ZListView::cellPlace(int index) const {
