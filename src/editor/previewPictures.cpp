@@ -10,6 +10,16 @@ namespace zdt {
 PreviewPictures::PreviewPictures(QObject* parent)
     : QObject(parent) {
     _pool.setMaxThreadCount(2);
+    // Sent by the pool's threads, heard on the interface thread.
+    connect(this, &PreviewPictures::decoded, this,
+            [this](unsigned round, const QString& name, const QImage& picture, bool isOwn) {
+                if (round == _round)
+                    emit ready(name, picture, isOwn);
+            });
+    connect(this, &PreviewPictures::added, this, [this](unsigned round, quint64 bytes) {
+        if (round == _round)
+            emit measured(bytes);
+    });
 }
 
 PreviewPictures::~PreviewPictures() {
@@ -28,27 +38,13 @@ void PreviewPictures::read(const Request& request) {
             return;
         const QImage picture = loadThumbnail(request.file, request.bounds);
         const bool isOwn = !request.templateFile.empty() && !areSameFiles(request.file, request.templateFile);
-        QMetaObject::invokeMethod(
-            this,
-            [this, round, name = request.name, picture, isOwn] {
-                if (round == _round)
-                    emit ready(name, picture, isOwn);
-            },
-            Qt::QueuedConnection);
+        emit decoded(round, request.name, picture, isOwn);
     });
 }
 
 void PreviewPictures::measure(const std::string& theme, const std::string& root) {
-    _pool.start([this, theme, root, round = _round.load()] {
-        const std::uint64_t bytes = ThemeResource::themeSize(theme, root);
-        QMetaObject::invokeMethod(
-            this,
-            [this, round, bytes] {
-                if (round == _round)
-                    emit measured(bytes);
-            },
-            Qt::QueuedConnection);
-    });
+    _pool.start(
+        [this, theme, root, round = _round.load()] { emit added(round, ThemeResource::themeSize(theme, root)); });
 }
 
 bool areSameFiles(const std::string& one, const std::string& other) {

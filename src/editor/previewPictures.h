@@ -37,6 +37,10 @@ signals:
     void ready(const QString& name, const QImage& picture, bool isOwn);
     void measured(quint64 bytes);
 
+    // Of the threads alone.
+    void decoded(unsigned round, const QString& name, const QImage& picture, bool isOwn);
+    void added(unsigned round, quint64 bytes);
+
 private:
     QThreadPool _pool;
     std::atomic<unsigned> _round = 0;

@@ -6,8 +6,8 @@
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
-#include <QStringList>
 #include <QSet>
+#include <QStringList>
 #include <QUiLoader>
 
 #include <utility>

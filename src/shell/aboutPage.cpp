@@ -21,8 +21,7 @@ CAboutPage::CAboutPage(Workbench& bench, QWidget* parent)
     , _tool(control<QLabel>("aboutTool")) {
     control<QLabel>("aboutLogo").setPixmap(programIcon().pixmap(QSize(logoSide, logoSide), devicePixelRatioF()));
     control<ZElidedLabel>("aboutFolder").setElideMode(Qt::ElideMiddle);
-    control<ZElidedLabel>("aboutFolder")
-        .setText(QDir(QString::fromStdString(bench.root() + "res")).absolutePath());
+    control<ZElidedLabel>("aboutFolder").setText(QDir(QString::fromStdString(bench.root() + "res")).absolutePath());
     control<ZElidedLabel>("aboutQt").setText(QString("Qt %1").arg(qVersion()));
     control<ZElidedLabel>("aboutLibraries").setText("libzip, tinyxml2, RE2");
     connect(&control<QPushButton>("ThemesBtn"), &QPushButton::clicked, this, &CAboutPage::themesRequested);

@@ -92,7 +92,8 @@ void CMainFrameWnd::makePages() {
     if (_start) {
         connect(_start, &CStartPage::newRequested, this, &CMainFrameWnd::newTheme);
         connect(_start, &CStartPage::importRequested, this, &CMainFrameWnd::chooseImport);
-        connect(_start, &CStartPage::openRequested, this, [this](const QString& name) { openTheme(name.toStdString()); });
+        connect(_start, &CStartPage::openRequested, this,
+                [this](const QString& name) { openTheme(name.toStdString()); });
         connect(_start, &CStartPage::deleteRequested, this,
                 [this](const QString& name) { deleteTheme(name.toStdString()); });
         connect(_start, &CStartPage::folderRequested, this,

@@ -1,5 +1,3 @@
-#include "shell/mainFrame.h"
-
 #include "editor/exportPage.h"
 #include "kit/layoutError.h"
 #include "kit/localisation.h"
@@ -12,6 +10,7 @@
 #include "shell/dropVeil.h"
 #include "shell/editorPages.h"
 #include "shell/languageChoice.h"
+#include "shell/mainFrame.h"
 #include "shell/pageMaker.h"
 #include "shell/startPage.h"
 #include "shell/themeImport.h"
@@ -228,7 +227,8 @@ void CMainFrameWnd::exportEnded(int result) {
 
 void CMainFrameWnd::chooseFirstLanguage() {
     const std::string setting = languageSetting(loadConfig());
-    const std::optional<int> chosen = languageAtStart(setting, isSimplifiedChinese(QLocale::system().name().toStdString()));
+    const std::optional<int> chosen =
+        languageAtStart(setting, isSimplifiedChinese(QLocale::system().name().toStdString()));
     if (chosen)
         chooseLanguage(*chosen);
     else
@@ -278,8 +278,7 @@ void CMainFrameWnd::takeDropped(const QStringList& paths) {
     if (tab() == Tab::start || tab() == Tab::about || !importableAmong(paths).empty())
         importPaths(paths);
     else
-        _bench.notifications().SendNotify(this, notify::Notify_Drag_File, 0,
-                                          reinterpret_cast<std::intptr_t>(&paths));
+        _bench.notifications().SendNotify(this, notify::Notify_Drag_File, 0, reinterpret_cast<std::intptr_t>(&paths));
 }
 
 } // namespace zdt

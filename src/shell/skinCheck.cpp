@@ -10,9 +10,9 @@ namespace zdt {
 
 namespace {
 
-constexpr std::array<const char*, 11> skinFiles{"skin.xml",    "start.xml",   "about.xml",    "newTheme.xml",
+constexpr std::array<const char*, 11> skinFiles{"skin.xml",    "start.xml",    "about.xml",    "newTheme.xml",
                                                 "export.xml",  "problems.xml", "fullList.xml", "style.qss",
-                                                "English.ini", "Chinese.ini", "Key.ini"};
+                                                "English.ini", "Chinese.ini",  "Key.ini"};
 
 bool stands(const QString& path) {
     const QFileInfo file(path);

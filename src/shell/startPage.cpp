@@ -75,8 +75,8 @@ void CStartPage::makeSteps() {
     for (std::size_t step = 0; step < stepIcons.size(); ++step)
         control<QLabel>(QString("step%1Icon").arg(step + 1))
             .setPixmap(iconPixmap(stepIcons[step], token::accentText, 20, devicePixelRatioF()));
-    control<QLabel>("dropIcon").setPixmap(
-        iconPixmap(Icon::DriveFolderUpload, token::iconPlain, 18, devicePixelRatioF()));
+    control<QLabel>("dropIcon")
+        .setPixmap(iconPixmap(Icon::DriveFolderUpload, token::iconPlain, 18, devicePixelRatioF()));
     _nothing.setIcon("search");
 }
 
@@ -104,8 +104,8 @@ void CStartPage::showOrders() {
 void CStartPage::refill() {
     const int current = _view.current();
     const std::string name = current >= 0 ? _cards.theme(current).name : std::string();
-    _cards.setThemes(readThemeCards(bench().root(), _order.currentIndex() == 1 ? ThemeOrder::byName
-                                                                               : ThemeOrder::byChange));
+    _cards.setThemes(
+        readThemeCards(bench().root(), _order.currentIndex() == 1 ? ThemeOrder::byName : ThemeOrder::byChange));
     select(name);
     showFound();
 }

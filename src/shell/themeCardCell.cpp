@@ -144,8 +144,8 @@ int ThemeCardCell::paintBadge(QPainter& painter, int left, const QString& text, 
 void ThemeCardCell::paintTexts(QPainter& painter) const {
     const QRect name(padding + 1, cardCoverHeight + 10, width() - 2 * padding - 2, 22);
     const QFont nameFont = textFont(token::textName, QFont::DemiBold);
-    const QString shown = QFontMetrics(nameFont).elidedText(QString::fromStdString(_card.name), Qt::ElideRight,
-                                                            name.width());
+    const QString shown =
+        QFontMetrics(nameFont).elidedText(QString::fromStdString(_card.name), Qt::ElideRight, name.width());
     painter.setFont(nameFont);
     painter.setPen(token::text);
     painter.drawText(name, Qt::AlignLeft | Qt::AlignVCenter, shown);

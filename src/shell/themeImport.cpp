@@ -118,8 +118,8 @@ std::vector<std::string> importThemes(Workbench& bench, QWidget* window, const s
     if (!settle(jobs, window))
         return {};
     const bool touchesOpen = bench.theme() && std::any_of(jobs.begin(), jobs.end(), [&](const Job& job) {
-        return job.plan.name == bench.theme()->name();
-    });
+                                 return job.plan.name == bench.theme()->name();
+                             });
     if (touchesOpen)
         bench.closeTheme();
     std::vector<std::string> imported = work(jobs, bench.root(), window);

@@ -1,130 +1,27 @@
-#include "editor/exportPage.h"
-
-#include "common/pageFixture.h"
+#include "editor/exportPageFixture.h"
 #include "editor/previewCard.h"
 #include "editor/stateLine.h"
-#include "kit/controlSearch.h"
 #include "kit/notificationNames.h"
 #include "kit/textLookup.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QButtonGroup>
-#include <QDialog>
-#include <QImage>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTest>
-#include <QTimer>
 
-#include <filesystem>
-#include <memory>
 #include <optional>
 
 namespace zdt {
 namespace {
+
+using test::ExportPageTest;
 
 /// Hears the list of problems.
 class ProblemEar : public INotifyUI {
 public:
     void Notify(const Notification& message) override {
         if (message.name == notify::Notify_Error_List_Msg)
-            heard = *reinterpret_cast<const std::vector<Problem>*>(message.lParam);
+            heard = *reinterpret_cast<const std::vector<Problem>*>(message.lParam); // NOLINT(performance-no-int-to-ptr)
     }
     std::optional<std::vector<Problem>> heard;
-};
-
-class ExportPageTest : public test::PageTest {
-protected:
-    CResEditOutPutDlg& openPage() {
-        page = std::make_unique<CResEditOutPutDlg>(bench);
-        done = std::make_unique<QSignalSpy>(page.get(), &CResEditOutPutDlg::done);
-        stored = std::make_unique<QSignalSpy>(page.get(), &CResEditOutPutDlg::valuesStored);
-        page->chooseFolder = [this](QWidget*, const QString&) { return QString::fromStdString(chosen); };
-        page->showFolder = [this](const QString& folder) { shown = folder; };
-        page->resize(1280, 727);
-        page->show();
-        page->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(page.get()));
-        page->open();
-        page->previews().finish();
-        return *page;
-    }
-
-    template <typename T>
-    T& find(const QString& name) {
-        return FindControl<T>(page.get(), name);
-    }
-
-    void type(const QString& name, const QString& text) {
-        auto& field = find<QLineEdit>(name);
-        field.setFocus();
-        field.selectAll();
-        QTest::keyClick(&field, Qt::Key_Delete);
-        QTest::keyClicks(&field, text);
-    }
-
-    [[nodiscard]] QString text(const QString& name) { return find<QLineEdit>(name).text(); }
-
-    /// Presses the buttons of the boxes that come, one after the other, and keeps what they say.
-    void answer(QStringList buttons) {
-        auto* timer = new QTimer(page.get());
-        QObject::connect(timer, &QTimer::timeout, page.get(), [this, timer, buttons]() mutable {
-            for (QWidget* box : QApplication::allWidgets()) {
-                const bool isBox = qobject_cast<QDialog*>(box) && box->isVisible();
-                auto* words = isBox ? box->findChild<QLabel*>("messageText") : nullptr;
-                if (!words)
-                    continue;
-                said += words->text();
-                const QString button = buttons.isEmpty() ? "messageAccept" : buttons.takeFirst();
-                if (buttons.isEmpty())
-                    timer->deleteLater();
-                box->findChild<QPushButton*>(button)->click();
-                return;
-            }
-        });
-        timer->start(20);
-    }
-
-    void pressOk(const QStringList& answers = {}) {
-        said.clear();
-        if (!answers.isEmpty())
-            answer(answers);
-        QTest::mouseClick(&find<QPushButton>("ResOutDlgOKBtn"), Qt::LeftButton);
-    }
-
-    [[nodiscard]] std::string package() const { return store.path("out/Aurora.zdt"); }
-
-    /// A theme and a page that could be exported.
-    void openGood() {
-        openNew();
-        openPage();
-        type("ResOutDlgENThemeName", "Aurora");
-        std::filesystem::create_directory(store.path("out"));
-        chosen = store.path("out");
-    }
-
-    std::string savedPicture(const std::string& name, const QSize& size, const QColor& colour = Qt::darkRed) {
-        QImage image(size, QImage::Format_RGB32);
-        image.fill(colour);
-        const std::string path = store.path(name);
-        EXPECT_TRUE(image.save(QString::fromStdString(path)));
-        return path;
-    }
-
-    [[nodiscard]] std::string previewBytes(const std::string& name) {
-        return test::readFile(bench.theme()->getValue({"preview"}, name));
-    }
-
-    std::unique_ptr<CResEditOutPutDlg> page;
-    std::unique_ptr<QSignalSpy> done;
-    std::unique_ptr<QSignalSpy> stored;
-    std::string chosen;
-    QString shown;
-    QStringList said;
 };
 
 TEST_F(ExportPageTest, OpeningFillsTheFormAndDrawsThePreviews) {
@@ -330,64 +227,6 @@ TEST_F(ExportPageTest, ValuesThatCannotBeWrittenAreToldAndStayTyped) {
     EXPECT_NE(bench.theme()->getValue({}, "title"), "Aurora");
     EXPECT_EQ(text("ResOutDlgENThemeName"), "Aurora");
     EXPECT_TRUE(done->isEmpty() && stored->isEmpty());
-}
-
-TEST_F(ExportPageTest, ReplacedLockPreviewIsDrawnAgain) {
-    openGood();
-    const std::string cover = previewBytes("cover.jpg");
-    const QString name = "preview_unlock_0.jpg";
-    page->previews().choosePicture = [&](QWidget*, const QString&) {
-        return QString::fromStdString(savedPicture("own.png", {1080, 2160}));
-    };
-    QTest::mouseClick(&find<QPushButton>("replace_" + name), Qt::LeftButton);
-    page->previews().finish();
-    page->previews().finish();
-    EXPECT_NE(previewBytes("cover.jpg"), cover);
-    std::vector<Problem> problems;
-    EXPECT_TRUE(bench.theme()->checkFiles(problems));
-    const PreviewPictureView& view = find<PreviewCard>("card_" + name).view();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return view.mark() == Text("kExport_own_picture"); }));
-    EXPECT_EQ(find<PreviewCard>("card_preview_icons_0.jpg").view().mark(), "");
-}
-
-TEST_F(ExportPageTest, RefusedPicturesLeaveWhatWasThere) {
-    openGood();
-    const std::string before = previewBytes("preview_icons_0.jpg");
-    const std::string small = savedPicture("small.jpg", {100, 100});
-    find<QPushButton>("replace_preview_icons_0.jpg").setFocus();
-    const auto drop = [&](const QStringList& files) {
-        said.clear();
-        answer({"messageAccept"});
-        bench.notifications().SendNotify(nullptr, notify::Notify_Drag_File, 0, reinterpret_cast<std::intptr_t>(&files));
-        page->previews().finish();
-    };
-    drop({QString::fromStdString(small)});
-    EXPECT_EQ(said, QStringList{Text("kWarn_upload_correct_unlock_pic_nine")});
-    drop({"a.jpg", "b.jpg"});
-    EXPECT_EQ(said, QStringList{Text("kExport_drop_one")});
-    EXPECT_EQ(previewBytes("preview_icons_0.jpg"), before);
-
-    const QStringList wanted{"preview_icons_0.jpg", QString::fromStdString(savedPicture("good.jpg", {1080, 2160}))};
-    bench.notifications().SendNotify(nullptr, notify::Replace_Picture_Notify, 0,
-                                     reinterpret_cast<std::intptr_t>(&wanted));
-    page->previews().finish();
-    EXPECT_NE(previewBytes("preview_icons_0.jpg"), before);
-}
-
-TEST_F(ExportPageTest, HelpOpensBesideItsButton) {
-    openNew();
-    openPage();
-    for (const char* field :
-         {"ResOutDlgENThemeName", "ResOutDlgCHThemeName", "ResOutDlgDeveloper", "ResOutDlgDesigner",
-          "ResOutDlgOVUIVersion", "ResOutDlgThemeVersion", "ResOutDlgSummary", "ResEditOutPutThemeList"}) {
-        find<QAbstractButton>(QString(field) + "_Btn").click();
-        QWidget* tip = QApplication::activePopupWidget();
-        ASSERT_NE(tip, nullptr) << field;
-        EXPECT_EQ(tip->size(), QSize(220, 150));
-        EXPECT_NE(FindControl<QLabel>(tip, "exportHelpText").text(), "") << field;
-        QTest::keyClick(tip, Qt::Key_Escape);
-        EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-    }
 }
 
 } // namespace

@@ -37,7 +37,7 @@ class PreviewWork : public testing::Test {
 protected:
     /// Saves a picture and gives its path.
     [[nodiscard]] std::string save(const QImage& image, const std::string& name, const char* format = nullptr) const {
-        const std::string path = folder.path(name);
+        std::string path = folder.path(name);
         EXPECT_TRUE(image.save(QString::fromStdString(path), format));
         return path;
     }

@@ -1,15 +1,15 @@
+#include "shell/mainFrame.h"
+
+#include "common/boxAnswers.h"
+#include "common/pageFixture.h"
 #include "kit/controlSearch.h"
 #include "kit/flowView.h"
 #include "kit/layoutError.h"
 #include "kit/notificationNames.h"
 #include "kit/searchField.h"
 #include "kit/segmentedControl.h"
-#include "shell/mainFrame.h"
 #include "shell/templatePhones.h"
 #include "shell/themeImport.h"
-
-#include "common/boxAnswers.h"
-#include "common/pageFixture.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -208,7 +208,9 @@ TEST_F(MainFrameTest, ImportsWithItsMessages) {
     const QString broken = QString::fromStdString(outside.write("Broken.zdt", "no archive"));
     EXPECT_EQ(during([&] { window().importPaths({forbidden}); }), QStringList{Text("kWarn_newtheme_special_sign")});
     EXPECT_EQ(during([&] { window().importPaths({broken}); }), QStringList{Text("kWarn_import_correct_theme_config")});
-    EXPECT_EQ(during([&] { window().importPaths({good + "x", QDir::homePath()}); }),
+    EXPECT_EQ(during([&] {
+                  window().importPaths({good + "x", QDir::homePath()});
+              }),
               QStringList{Text("kStart_no_package")});
     EXPECT_EQ(during([&] { window().importPaths({good}); }), QStringList{Text("kWarn_Import_theme_sucess")});
     EXPECT_EQ(themes(), (std::vector<std::string>{"Fresh", "ToPack"}));
@@ -231,8 +233,8 @@ TEST_F(MainFrameTest, SeveralPackagesAndFoldersHaveOneQuestionAndOneResult) {
     paths += QString::fromStdString(outside.write("Broken.zdt", "no archive"));
     store.create("Two").reset();
     const QStringList said = during([&] { window().importPaths(paths); });
-    EXPECT_EQ(said, QStringList({"1 of these themes exist already. Replace them?",
-                                 "Themes imported: 3. Not imported: 1"}));
+    EXPECT_EQ(said,
+              QStringList({"1 of these themes exist already. Replace them?", "Themes imported: 3. Not imported: 1"}));
     EXPECT_EQ(themes(), (std::vector<std::string>{"A folder v1.0", "One", "ToPack", "Two"}));
     EXPECT_TRUE(test::problemsOf(*store.open("A folder v1.0")).empty());
 }

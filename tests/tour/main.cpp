@@ -10,7 +10,6 @@
 #include "shell/application.h"
 #include "shell/mainFrame.h"
 #include "store/themeResource.h"
-
 #include "tour/script.h"
 
 #include <QApplication>

@@ -40,12 +40,14 @@ void Script::add(QString what, std::function<bool()> ready, std::function<void()
 }
 
 void Script::click(const QString& name) {
-    add("click " + name, [this, name] { return seen(name) != nullptr; },
+    add(
+        "click " + name, [this, name] { return seen(name) != nullptr; },
         [this, name] { QTest::mouseClick(seen(name), Qt::LeftButton); });
 }
 
 void Script::type(const QString& name, const QString& text) {
-    add("type into " + name, [this, name] { return seen(name) != nullptr; },
+    add(
+        "type into " + name, [this, name] { return seen(name) != nullptr; },
         [this, name, text] {
             QWidget* field = seen(name);
             field->setFocus();
@@ -60,13 +62,15 @@ void Script::type(const QString& name, const QString& text) {
 }
 
 void Script::key(const QString& name, int key, Qt::KeyboardModifiers modifiers) {
-    add("press a key in " + name, [this, name] { return seen(name) != nullptr; },
+    add(
+        "press a key in " + name, [this, name] { return seen(name) != nullptr; },
         [this, name, key, modifiers] { QTest::keyClick(seen(name), static_cast<Qt::Key>(key), modifiers); });
 }
 
 void Script::choose(const QString& path) {
     const auto dialog = [] { return qobject_cast<QFileDialog*>(QApplication::activeModalWidget()); };
-    add("choose " + path, [dialog] { return dialog() != nullptr; },
+    add(
+        "choose " + path, [dialog] { return dialog() != nullptr; },
         [dialog, path] {
             auto* name = dialog()->findChild<QLineEdit*>("fileNameEdit");
             name->setText(path);
@@ -88,11 +92,13 @@ void Script::waitFor(const QString& what, std::function<bool()> ready) {
 }
 
 void Script::act(const QString& what, std::function<void()> act) {
-    add(what, [] { return true; }, std::move(act));
+    add(
+        what, [] { return true; }, std::move(act));
 }
 
 void Script::rest(int milliseconds) {
-    add("rest", [this, milliseconds] { return _waiting.elapsed() >= milliseconds; }, [] {});
+    add(
+        "rest", [this, milliseconds] { return _waiting.elapsed() >= milliseconds; }, [] {});
 }
 
 void Script::start(std::function<void(bool)> done) {
