@@ -1,33 +1,26 @@
 #!/usr/bin/env bash
-# Makes a demonstration theme with `zdt` under OUT, changes a few colours and a picture, and exports it.
+# Walks through the designer's real window on a screen in memory: makes a demonstration theme, changes a colour and a
+# picture, mends problems and exports it. The package and screenshots of every page, in both languages, come to stand
+# under OUT.
 #
-#   demo.sh ZDT OUT
+#   demo.sh PROGRAM_FOLDER OUT
 set -euo pipefail
-zdt=$(realpath "$1")
+programs=$(realpath "$1")
 mkdir -p "$2"
 out=$(realpath "$2")
-root=$out/store
 name=Lagoon
 
-rm -rf "$root" "$out/$name.zdt"
-mkdir -p "$root"
-zdt() { "$zdt" --root "$root" "$@"; }
-
-echo "A new theme of generation 9: $root/res/$name"
-zdt new "$name" --generation 9
-
-echo "Its names, a few colours, and the square icon's picture as another application's icon:"
-zdt set "$name" \
-    title "$name" title-cn 潟湖 author "The demonstration" designer "The demonstration" \
-    launcher/text/workspace_app_text_color "#e0fbfc" \
-    contacts/text/call_log_primary_text_color "#12505b" \
-    mms/text/message_pop_send_bg_color_theme_adapter "#b8f2e6" \
-    systemui/text/qs_tile_tint_on "#00a8a8" \
-    icons/system/static/com.android.browser.png "$root/res/$name/icons/com.zendro.android.compass.png"
-zdt get "$name" launcher/text/workspace_app_text_color
+rm -rf "$out/store" "$out/$name.zdt" "$out"/*.png
+echo "Walking through the window (a minute) ..."
+runtime=$(mktemp -d)
+trap 'rm -rf "$runtime"' EXIT
+export XDG_RUNTIME_DIR=$runtime
+xvfb-run -a -s "-screen 0 1280x775x24" bash -c '
+    openbox >/dev/null 2>&1 &
+    sleep 0.5
+    "$0/zdt_window_tour" "$1"' "$programs" "$out"
 
 echo "What is missing for an export:"
-zdt check "$name" && echo "nothing"
-
-zdt export "$name" "$out/$name.zdt"
+"$programs/zdt" --root "$out/store" check "$name" && echo "nothing"
 echo "The package: $out/$name.zdt ($(stat -c %s "$out/$name.zdt") bytes)"
+echo "Screenshots: $(ls "$out"/*.png | wc -l) in $out"

@@ -7,6 +7,7 @@ packages=(
     qt6-base-dev
     qt6-tools-dev libqt6opengl6-dev # layouts that are loaded while the program runs; CMake finds them only with the second
     fonts-inter fonts-jetbrains-mono fonts-noto-cjk # the faces of the window, Chinese too
+    qt6-translations-l10n # the words of Qt's own file dialogs
     fonts-material-design-icons-iconfont # its icons
     # to test and check
     libgtest-dev libbenchmark-dev clang-format clang-tidy

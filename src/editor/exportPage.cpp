@@ -195,7 +195,7 @@ bool CResEditOutPutDlg::runExport(const std::string& path) {
 void CResEditOutPutDlg::tellSuccess(const QString& path) {
     Box box({Box::Kind::Success, "kDialog_Title_Desc_Info", "kWarn_popout_sucess", {}, "kConfirm", {}, false}, Text,
             window());
-    QPushButton* show = box.addButton(Text("kExport_open_folder"), "messageOpenFolder");
+    QPushButton* show = box.addButton(Text("kExport_open_folder"), "messageOpenFolder", {}, 0);
     show->setAutoDefault(false);
     connect(show, &QPushButton::clicked, &box, [&] {
         showFolder(QFileInfo(path).path());

@@ -96,12 +96,12 @@ void ZBaseDialog::setCloseTip(const QString& tip) {
     _close->setAccessibleName(tip);
 }
 
-QPushButton* ZBaseDialog::addButton(const QString& text, const QString& name, const QString& kind) {
+QPushButton* ZBaseDialog::addButton(const QString& text, const QString& name, const QString& kind, int place) {
     auto* button = new QPushButton(text, _foot);
     button->setObjectName(name);
     button->setProperty("kind", kind);
     button->setMinimumWidth(token::dialogButtonWidth);
-    _buttons->addWidget(button);
+    _buttons->insertWidget(place, button);
     _foot->show();
     return button;
 }

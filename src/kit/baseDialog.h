@@ -30,7 +30,8 @@ public:
     [[nodiscard]] QVBoxLayout* body() const { return _body; }
     /// Adds a button at the right of the foot, which shows once it has one; at least 88 wide. `kind` as in the style
     /// sheet.
-    QPushButton* addButton(const QString& text, const QString& name, const QString& kind = {});
+    /// @param place among the buttons that are there, from 0; behind them for -1
+    QPushButton* addButton(const QString& text, const QString& name, const QString& kind = {}, int place = -1);
     /// A note at the left of the foot, behind a small sign.
     void setNote(const QString& note);
     /// False for a dialog that can only be left by its buttons: no close button, and Escape does nothing.

@@ -7,6 +7,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QTranslator>
 
 #include <memory>
 #include <string>
@@ -64,6 +65,7 @@ private:
     void showTab(Tab tab);
     [[nodiscard]] Tab tab() const;
     void openAbout();
+    void takeQtWords(int language);
     void newTheme();
     void createTheme(const NewTheme& wanted);
     void chooseImport();
@@ -90,6 +92,7 @@ private:
     CResEditOutPutDlg* _export = nullptr;
     std::unique_ptr<CEditorPages> _pages;
     std::unique_ptr<DropVeil> _veil;
+    QTranslator _qtWords;       ///< Those of the file dialogs.
     bool _problemsCame = false; ///< A list of problems was handed over and is to be shown.
     bool _asksToClose = false;
 };

@@ -18,9 +18,11 @@
 #include "support/files.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QLabel>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QMimeData>
 #include <QPushButton>
@@ -237,8 +239,17 @@ void CMainFrameWnd::chooseFirstLanguage() {
     _english.setChecked(GetLanguage() == englishLanguage);
 }
 
+void CMainFrameWnd::takeQtWords(int language) {
+    QCoreApplication::removeTranslator(&_qtWords);
+    const bool loaded = language == chineseLanguage &&
+                        _qtWords.load("qtbase_zh_CN", QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    if (loaded)
+        QCoreApplication::installTranslator(&_qtWords);
+}
+
 void CMainFrameWnd::chooseLanguage(int language) {
     writeConfig(language);
+    takeQtWords(language);
     CPaintManagerUI& hub = _bench.notifications();
     hub.SendNotify(this, notify::Reload_change_unlock_ratio);
     _chinese.setChecked(language == chineseLanguage);
