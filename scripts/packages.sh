@@ -10,7 +10,7 @@ packages=(
     fonts-material-design-icons-iconfont # its icons
     # to test and check
     libgtest-dev libbenchmark-dev clang-format clang-tidy
-    aapt # compiles every nine-patch picture of the templates
+    adb aapt # the tools folder holds copies: the way to a phone, and the compiler of nine-patches, which the tests use too
     ffmpeg # makes real videos for the tests, and ffprobe is the peer of their inspection
     libgif-dev # writes the GIFs of the tests
     clang libclang-rt-14-dev # the compiler of the fuzz targets, with libFuzzer and the sanitizers

@@ -74,22 +74,56 @@ std::string_view checkChineseName(const std::string& text) {
     return name.size() > longestChineseName ? exportMessage::longChineseName : std::string_view();
 }
 
-std::string_view checkExportForm(const ExportForm& form) {
+std::vector<FormProblem> exportProblems(const ExportForm& form) {
     constexpr int firstVersion = 100;
     constexpr int lastVersion = 1000; // One more than leaving the field allows.
-    if (form.generation == generation9 && !liesWithin(form.themeVersion, firstVersion, lastVersion))
-        return exportMessage::badThemeVersion;
-    if (const std::string_view message = checkEnglishName(form.englishName); !message.empty())
-        return message;
-    if (form.chineseName.empty())
-        return exportMessage::emptyChineseName;
-    if (form.developer.empty())
-        return exportMessage::emptyDeveloper;
-    if (form.designer.empty())
-        return exportMessage::emptyDesigner;
-    if (const std::string_view message = checkChineseName(form.chineseName); !message.empty())
-        return message;
-    return form.generation && !form.themeVersion.empty() ? std::string_view() : exportMessage::incomplete;
+    std::vector<FormProblem> problems;
+    const auto add = [&](ExportField field, std::string_view message) {
+        if (!message.empty())
+            problems.push_back({field, message});
+    };
+    const auto addIf = [&](bool isWrong, ExportField field, std::string_view message) {
+        add(field, isWrong ? message : std::string_view());
+    };
+    const bool isNinth = form.generation == generation9;
+    addIf(isNinth && !liesWithin(form.themeVersion, firstVersion, lastVersion), ExportField::themeVersion,
+          exportMessage::badThemeVersion);
+    add(ExportField::englishName, checkEnglishName(form.englishName));
+    addIf(form.chineseName.empty(), ExportField::chineseName, exportMessage::emptyChineseName);
+    addIf(form.developer.empty(), ExportField::developer, exportMessage::emptyDeveloper);
+    addIf(form.designer.empty(), ExportField::designer, exportMessage::emptyDesigner);
+    add(ExportField::chineseName, checkChineseName(form.chineseName));
+    addIf(!form.generation, ExportField::target, exportMessage::incomplete);
+    addIf(!isNinth && form.themeVersion.empty(), ExportField::themeVersion, exportMessage::incomplete);
+    addIf(toCodePoints(form.summary).size() > longestSummary, ExportField::summary, exportMessage::longSummary);
+    return problems;
+}
+
+std::string_view shortMessage(const FormProblem& problem) {
+    struct Short {
+        std::string_view message;
+        std::string_view key;
+    };
+    constexpr std::array<Short, 8> shorts{{
+        {exportMessage::badThemeVersion, "kExport_short_version_nine"},
+        {exportMessage::dotAtTheEnds, "kExport_short_dot"},
+        {exportMessage::forbiddenSign, "kExport_short_sign"},
+        {exportMessage::longEnglishName, "kExport_short_long_EN"},
+        {exportMessage::forbiddenChineseSign, "kExport_short_sign_CH"},
+        {exportMessage::longChineseName, "kExport_short_long_CH"},
+        {exportMessage::longSummary, "kExport_short_summary"},
+        {exportMessage::incomplete, "kExport_short_version"},
+    }};
+    if (problem.field == ExportField::target)
+        return "kExport_short_target";
+    const auto* found =
+        std::find_if(shorts.begin(), shorts.end(), [&](const Short& each) { return each.message == problem.message; });
+    return found == shorts.end() ? "kExport_short_empty" : found->key;
+}
+
+std::string_view checkExportForm(const ExportForm& form) {
+    const std::vector<FormProblem> problems = exportProblems(form);
+    return problems.empty() ? std::string_view() : problems.front().message;
 }
 
 std::string fullVersion(const ExportForm& form) {
@@ -127,7 +161,7 @@ std::vector<std::string> previewsOf(const PreviewGroup& group, const std::vector
                                     unsigned generation) {
     std::vector<std::string> shown = names;
     std::erase_if(shown, [&](const std::string& name) {
-        const bool isLater = holds(name, "_contacts_1") || holds(name, "_contacts_2");
+        const bool isLater = holds(name, "_contacts_1.") || holds(name, "_contacts_2.");
         return !holds(name, group.tag) || (isLater && generation < generation9);
     });
     return shown;

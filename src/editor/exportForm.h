@@ -22,7 +22,15 @@ inline constexpr std::string_view longEnglishName = "kWarn_theme_name_limit";
 inline constexpr std::string_view forbiddenChineseSign = "kWarn_newtheme_special_ch_sign";
 inline constexpr std::string_view longChineseName = "kWarn_theme_name_cn_limit";
 inline constexpr std::string_view incomplete = "kWarn_theme_config_not_complite";
+inline constexpr std::string_view longSummary = "kExport_long_summary";
 } // namespace exportMessage
+
+/// Where the author types or chooses.
+enum class ExportField { englishName, chineseName, developer, designer, target, themeVersion, summary };
+inline constexpr std::size_t exportFieldCount = 7;
+
+/// Characters of the longest summary; a description that holds more would be hard to read again.
+inline constexpr std::size_t longestSummary = 5000;
 
 /// What an author chooses as the target, by the index of the generation.
 struct ExportTarget {
@@ -44,6 +52,18 @@ struct ExportForm {
     std::string themeVersion;           ///< Digits; from 100 to 1000 for generation 9.
     std::string summary;
 };
+
+/// One thing that is wrong in a form.
+struct FormProblem {
+    ExportField field;
+    std::string_view message; ///< Of `exportMessage`.
+};
+
+/// All that is wrong, in the order in which it is told; at most two things of one field.
+[[nodiscard]] std::vector<FormProblem> exportProblems(const ExportForm& form);
+
+/// The key of the few words that stand under the field itself.
+[[nodiscard]] std::string_view shortMessage(const FormProblem& problem);
 
 /// The key of the message for the first thing that is wrong; empty if the form may be exported.
 [[nodiscard]] std::string_view checkExportForm(const ExportForm& form);

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QStringList>
+#include <QSet>
 #include <QUiLoader>
 
 #include <utility>
@@ -18,15 +19,34 @@ namespace {
 /// A layout is written by hand or by Qt Designer; none of ours comes near.
 constexpr qint64 maximumLayout = 4 << 20;
 
-/// Qt's loader gives null for an unknown class and says nothing, so it is noticed here.
+SkinLoader::Result failed(const QString& name, const QString& why) {
+    return {nullptr, name + ": " + why};
+}
+
+} // namespace
+
+/// Qt's loader gives null for an unknown class and says nothing, so it is noticed here. It looks for plugins when it is
+/// made, which takes time: one serves all layouts.
 class FormLoader : public QUiLoader {
 public:
-    explicit FormLoader(const std::map<QString, SkinLoader::Factory>& controls)
-        : _controls(controls) {}
+    FormLoader() {
+        setLanguageChangeEnabled(false);
+        for (const QString& name : availableWidgets())
+            _standard.insert(name);
+        _standard.insert("Line");
+    }
+
+    void registerControl(const QString& className, SkinLoader::Factory factory) {
+        _controls[className] = std::move(factory);
+    }
 
     QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
         const auto own = _controls.find(className);
-        QWidget* widget = own != _controls.end() ? own->second(parent) : standard(className, parent, name);
+        QWidget* widget = nullptr;
+        if (own != _controls.end())
+            widget = own->second(parent);
+        else if (_standard.contains(className))
+            widget = QUiLoader::createWidget(className, parent, name);
         if (!widget) {
             _unknown += QString("%1 (\"%2\")").arg(className, name);
             return nullptr;
@@ -35,32 +55,23 @@ public:
         return widget;
     }
 
-    [[nodiscard]] const QStringList& unknown() const { return _unknown; }
+    /// The classes of the last layout that nobody knows.
+    [[nodiscard]] QStringList takeUnknown() { return std::exchange(_unknown, {}); }
 
 private:
-    QWidget* standard(const QString& className, QWidget* parent, const QString& name) {
-        return className == "Line" || availableWidgets().contains(className)
-                   ? QUiLoader::createWidget(className, parent, name)
-                   : nullptr;
-    }
-
-    const std::map<QString, SkinLoader::Factory>& _controls;
+    std::map<QString, SkinLoader::Factory> _controls;
+    QSet<QString> _standard;
     QStringList _unknown;
 };
 
-SkinLoader::Result failed(const QString& name, const QString& why) {
-    return {nullptr, name + ": " + why};
-}
-
-} // namespace
-
 SkinLoader::SkinLoader(QStringList folders)
-    : _folders(std::move(folders)) {
+    : _folders(std::move(folders))
+    , _loader(std::make_shared<FormLoader>()) {
     registerKitControls(*this);
 }
 
 void SkinLoader::registerControl(const QString& className, Factory factory) {
-    _controls[className] = std::move(factory);
+    _loader->registerControl(className, std::move(factory));
 }
 
 SkinLoader::Result SkinLoader::loadFile(const QString& path, QWidget* parent) const {
@@ -84,15 +95,14 @@ SkinLoader::Result SkinLoader::load(const QString& name, QWidget* parent) const 
 }
 
 SkinLoader::Result SkinLoader::loadText(const QByteArray& layout, const QString& name, QWidget* parent) const {
-    FormLoader loader(_controls);
     QBuffer buffer;
     buffer.setData(layout);
     buffer.open(QIODevice::ReadOnly);
-    std::unique_ptr<QWidget> widget(loader.load(&buffer, parent));
-    if (!loader.unknown().isEmpty())
-        return failed(name, "unknown class " + loader.unknown().join(", "));
+    std::unique_ptr<QWidget> widget(_loader->load(&buffer, parent));
+    if (const QStringList unknown = _loader->takeUnknown(); !unknown.isEmpty())
+        return failed(name, "unknown class " + unknown.join(", "));
     if (!widget)
-        return failed(name, loader.errorString().isEmpty() ? "no widget in it" : loader.errorString());
+        return failed(name, _loader->errorString().isEmpty() ? "no widget in it" : _loader->errorString());
     polishControls(widget.get());
     return {std::move(widget), {}};
 }

@@ -4,10 +4,11 @@
 #include <QWidget>
 
 #include <functional>
-#include <map>
 #include <memory>
 
 namespace zdt {
+
+class FormLoader;
 
 /// Makes windows of layouts that are written as Qt Designer forms and lie in the skin's folder.
 class SkinLoader {
@@ -40,7 +41,7 @@ private:
     [[nodiscard]] Result loadFile(const QString& path, QWidget* parent) const;
 
     QStringList _folders;
-    std::map<QString, Factory> _controls;
+    std::shared_ptr<FormLoader> _loader; ///< Copies share their controls.
 };
 
 } // namespace zdt

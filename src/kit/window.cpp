@@ -102,7 +102,7 @@ bool ZWindow::leaveDialogs() {
 }
 
 void ZWindow::closeEvent(QCloseEvent* event) {
-    if (leaveDialogs())
+    if (leaveDialogs() && mayClose())
         QWidget::closeEvent(event);
     else
         event->ignore();

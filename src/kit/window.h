@@ -40,8 +40,12 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
-    /// Closes open dialogs first, the last one first; one that can't be left keeps the window open.
+    /// Closes open dialogs first, the last one first; one that can't be left keeps the window open. Then `mayClose` is
+    /// asked.
     void closeEvent(QCloseEvent* event) override;
+
+    /// Whether the window may close, which may be asked of the author.
+    [[nodiscard]] virtual bool mayClose() { return true; }
 
 private:
     void showState();

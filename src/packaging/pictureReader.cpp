@@ -30,6 +30,11 @@ int PictureReader::gifFrameCount() {
     return _format == "gif" ? std::max(_reader.imageCount(), 0) : 0;
 }
 
+void PictureReader::shrinkInto(const QSize& bounds) {
+    if (_size.width() > bounds.width() || _size.height() > bounds.height())
+        _reader.setScaledSize(_size.scaled(bounds, Qt::KeepAspectRatio).expandedTo({1, 1}));
+}
+
 QImage PictureReader::read() {
     const std::int64_t pixels = static_cast<std::int64_t>(_size.width()) * _size.height();
     return _format.isEmpty() || pixels > maxPicturePixels ? QImage() : _reader.read();

@@ -32,6 +32,10 @@ public:
     /// Frames, with nothing decoded; 0 for what isn't a GIF. Of a damaged GIF there may be fewer or more to be read.
     [[nodiscard]] int gifFrameCount();
 
+    /// Lets `read` give the picture no larger than `bounds` and in its proportions, which takes less time than to make
+    /// it smaller afterwards. One that fits stays as it is.
+    void shrinkInto(const QSize& bounds);
+
     /// The picture, or a GIF's next frame as it is seen on top of those before it. Null behind the last, and if it
     /// can't be read or is too large.
     [[nodiscard]] QImage read();

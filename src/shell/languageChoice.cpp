@@ -1,5 +1,9 @@
 #include "shell/languageChoice.h"
 
+#include "kit/skinFolder.h"
+#include "support/atomicFile.h"
+#include "support/files.h"
+
 #include <algorithm>
 
 namespace zdt {
@@ -7,6 +11,9 @@ namespace zdt {
 namespace {
 
 constexpr std::string_view section = "[Special_for_init_select_language]";
+constexpr const char* configName = "config.ini";
+/// Bytes; ours has a hundred.
+constexpr std::uint64_t longestConfig = 64 * 1024;
 constexpr std::string_view key = "kSpecial_for_init_select_language";
 
 std::string_view trimmed(std::string_view text) {
@@ -69,6 +76,17 @@ std::string withLanguage(std::string_view config, int language) {
     if (!text.empty() && !text.ends_with('\n'))
         text += '\n';
     return text + std::string(section) + "\n" + std::string(key) + "=" + value + "\n";
+}
+
+std::string loadConfig() {
+    return readFile(skinFile(configName), longestConfig).value_or(std::string());
+}
+
+bool writeConfig(int language) {
+    const std::string text = loadConfig();
+    const std::string changed = withLanguage(text, language);
+    const std::string path = writableSkinFile(configName);
+    return text == changed || (!path.empty() && writeFile(path, changed));
 }
 
 } // namespace zdt

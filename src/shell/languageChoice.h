@@ -23,4 +23,10 @@ namespace zdt {
 /// The text of `config.ini` with the language in it; what else it holds stays.
 [[nodiscard]] std::string withLanguage(std::string_view config, int language);
 
+/// The text of the skin folder's `config.ini`; empty if it can't be read.
+[[nodiscard]] std::string loadConfig();
+
+/// Writes the language into `config.ini`. False if it can't be written: the choice then lasts until the program ends.
+bool writeConfig(int language);
+
 } // namespace zdt

@@ -76,7 +76,7 @@ TEST(SkinTexts, TextsAreInTheirLanguageAndTakeTheSameValues) {
     const TextTable chinese = texts("Chinese.ini");
     const TextTable english = texts("English.ini");
     const QRegularExpression han(R"(\p{Han})");
-    const QRegularExpression otherFormat("%(?![ds])[A-Za-z0-9]");
+    const QRegularExpression otherFormat("%(?![ds12])[A-Za-z0-9]");
     for (auto text = chinese.begin(); text != chinese.end(); ++text) {
         const QString other = english.value(text.key());
         const std::string key = text.key().toStdString();
@@ -84,6 +84,8 @@ TEST(SkinTexts, TextsAreInTheirLanguageAndTakeTheSameValues) {
             EXPECT_EQ(text->count(mark), other.count(mark)) << key;
             EXPECT_LE(text->count(mark), 1) << key;
         }
+        for (const char* mark : {"%1", "%2"})
+            EXPECT_EQ(text->contains(mark), other.contains(mark)) << key;
         EXPECT_FALSE((*text + "\n" + other).contains(otherFormat)) << key;
         EXPECT_FALSE(other.contains(han)) << key;
         EXPECT_TRUE(text->isEmpty() || text->contains(han)) << key;

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "editor/keyChange.h"
+#include "editor/keyListSource.h"
+#include "kit/page.h"
+
+#include <QColor>
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include <string>
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QStackedWidget;
+
+namespace zdt {
+
+class KeyEditor;
+class KeyFacts;
+class KeyPreview;
+class ZElidedLabel;
+class ZEmptyState;
+class ZListView;
+class ZSearchField;
+
+/// The list of every key and file of the open theme, with a search, editing in the row, and what is known of the
+/// current row beside it.
+class CFullListPage : public ZPage {
+    Q_OBJECT
+
+public:
+    CFullListPage(Workbench& bench, QWidget* parent);
+    ~CFullListPage() override;
+
+    /// Shows the keys of a module, `sharedModule` for those that all applications share; empty for everything. One that
+    /// has no keys changes nothing.
+    void showModule(const std::string& module);
+    /// Goes to a key: the names down to it, joined by "/". False if the list has no such key.
+    bool showLeaf(const std::string& keyText);
+    void focusSearch();
+
+    void Notify(const Notification& message) override;
+
+protected:
+    void reload() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void connectBar();
+    void connectList();
+    void connectEditor();
+
+    // What is shown
+    void fillModules();
+    void setFilter(const KeyFilter& filter);
+    void showCounts();
+    void showEmpty();
+    void showRange();
+    void placeHead();
+    void placeEditor();
+    void showCurrent();
+    void showDetails();
+    void showPreview();
+    [[nodiscard]] bool hasCurrent() const;
+    [[nodiscard]] int current() const;
+    [[nodiscard]] int rowAt(const QPoint& position) const;
+
+    // What is changed
+    void enterValue(const QString& value, bool isWhole);
+    void activate(int index);
+    void moveAndEdit(int by);
+    void chooseColour(int index);
+    void tryColour(const std::string& key, const QColor& colour);
+    void replaceByDialog();
+    void replaceBy(int index, const QString& file);
+    void resetCurrent();
+    void copyValue() const;
+    void pasteValue();
+    /// Shows what a change left, and lets others check.
+    void changed(const std::string& key);
+    void tell(const QString& reason, const QString& more = {});
+    bool listKey(const QKeyEvent& event);
+    bool dropOnList(QEvent* event);
+
+    KeyListSource _table;
+    ZSearchField& _search;
+    QComboBox& _modules;
+    QPushButton& _changedOnly;
+    QLabel& _count;
+    QLabel& _changedCount;
+    QWidget& _head;
+    QPushButton& _headKey;
+    QLabel& _headValue;
+    QLabel& _headGenerations;
+    QLabel& _headApplies;
+    QStackedWidget& _stack;
+    ZListView& _list;
+    ZEmptyState& _empty;
+    QLabel& _range;
+    ZElidedLabel& _name;
+    QPushButton& _replace;
+    QPushButton& _edit;
+    QPushButton& _reset;
+    KeyEditor* _editor;
+    KeyPreview* _preview;
+    KeyFacts* _facts;
+    QLabel* _nothing;
+
+    std::string _theme;   ///< The name of the theme that is shown.
+    std::string _current; ///< The key of the current row.
+    QTimer _detailTimer;  ///< Details follow the row when the keys are let go.
+    QTimer _tryTimer;     ///< Colours that are tried are written at most thirty times a second.
+    QColor _tried;
+    QString _folder; ///< Where the last file was chosen.
+};
+
+} // namespace zdt

@@ -1,0 +1,273 @@
+#include "editor/fullListPage.h"
+#include "editor/keyEditor.h"
+#include "kit/colourDialog.h"
+#include "kit/colourText.h"
+#include "kit/listView.h"
+#include "kit/localisation.h"
+#include "kit/messageBoxDlg.h"
+#include "kit/notificationNames.h"
+#include "kit/searchField.h"
+#include "model/returnCode.h"
+#include "packaging/uploadMessages.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScrollBar>
+
+/// What the author changes in the list.
+namespace zdt {
+
+namespace {
+
+QStringList filesOf(const QMimeData& data) {
+    QStringList files;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile())
+            files.append(url.toLocalFile());
+    }
+    return files;
+}
+
+/// What a file dialog offers for a row.
+QString nameFilter(const KeyRow& row) {
+    QStringList patterns;
+    if (row.kind == KeyKind::video)
+        patterns.append("*.mp4");
+    else if (row.name().ends_with(".9.png"))
+        patterns.append("*.9.png");
+    else if (row.kind == KeyKind::picture)
+        patterns.append(row.kinds == fileKind::png ? QStringList{"*.png"} : QStringList{"*.jpg", "*.png"});
+    else
+        patterns.append("*");
+    return QString("%1 (%2)").arg(Text("kList_files"), patterns.join(' '));
+}
+
+} // namespace
+
+void CFullListPage::activate(int index) {
+    if (index < 0 || index >= _table.count())
+        return;
+    _list.setCurrent(index);
+    if (isFile(_table.row(index).kind))
+        replaceByDialog();
+    else
+        _editor->edit();
+}
+
+void CFullListPage::moveAndEdit(int by) {
+    const int index = current() + by;
+    if (index < 0 || index >= _table.count())
+        return;
+    _list.setCurrent(index);
+    if (isFile(_table.row(index).kind))
+        _list.setFocus(Qt::ShortcutFocusReason);
+    else
+        _editor->edit();
+}
+
+void CFullListPage::enterValue(const QString& value, bool isWhole) {
+    if (!theme() || !hasCurrent())
+        return;
+    const KeyRow row = _table.row(current());
+    const int code = isWhole ? changeKey(*theme(), row, value.toStdString()) : returnCode::patternMismatch;
+    if (code == returnCode::success)
+        changed(row.key);
+    else
+        _editor->showReason(reasonWords(code));
+}
+
+void CFullListPage::changed(const std::string& key) {
+    if (theme())
+        _table.refresh(*theme(), key);
+    if (key == _current)
+        showCurrent();
+    bench().notifications().SendNotify(this, notify::Notify_Error_List_refresh);
+}
+
+void CFullListPage::tryColour(const std::string& key, const QColor& colour) {
+    _tried = colour;
+    if (_tryTimer.isActive() || !theme())
+        return;
+    const KeyRow* row = _table.find(key);
+    if (!row || changeKey(*theme(), KeyRow(*row), colourText(colour).toStdString()) != returnCode::success)
+        return;
+    _table.refresh(*theme(), key);
+    if (key == _current)
+        showCurrent();
+    _tryTimer.start();
+}
+
+void CFullListPage::chooseColour(int index) {
+    if (!theme() || index < 0 || index >= _table.count())
+        return;
+    _list.setCurrent(index);
+    const KeyRow row = _table.row(index);
+    const std::optional<QColor> before = colourOf(QString::fromStdString(row.value));
+    if (row.kind != KeyKind::colour || !before)
+        return isFile(row.kind) ? replaceByDialog() : _editor->edit();
+    const ZColourDialog::Request request{*before, colourOf(QString::fromStdString(row.fallback)),
+                                         _table.commonColours()};
+    // The last colour tried is written even if the author stops within the interval.
+    const QMetaObject::Connection late = connect(&_tryTimer, &QTimer::timeout, this, [this, key = row.key] {
+        const KeyRow* now = _table.find(key);
+        if (now && !sameText(KeyKind::colour, now->value, colourText(_tried).toStdString()))
+            tryColour(key, _tried);
+    });
+    const std::optional<QColor> chosen = ZColourDialog::choose(
+        request, Text, this, [this, key = row.key](const QColor& colour) { tryColour(key, colour); });
+    disconnect(late);
+    _tryTimer.stop();
+    if (!theme() || !_table.find(row.key))
+        return;
+    const std::string value = chosen ? colourText(*chosen).toStdString() : row.value;
+    const bool isStored = sameText(KeyKind::colour, _table.find(row.key)->value, value);
+    const int code = isStored ? returnCode::success : changeKey(*theme(), row, value);
+    changed(row.key);
+    if (code != returnCode::success)
+        tell(reasonWords(code));
+}
+
+void CFullListPage::replaceByDialog() {
+    if (!theme() || !hasCurrent() || !isFile(_table.row(current()).kind))
+        return;
+    const std::string key = _current;
+    const QString file =
+        QFileDialog::getOpenFileName(this, Text("kList_choose_file"), _folder, nameFilter(_table.row(current())));
+    const int index = _table.indexOf(key);
+    if (file.isEmpty() || index < 0)
+        return;
+    _folder = QFileInfo(file).path();
+    replaceBy(index, file);
+}
+
+void CFullListPage::replaceBy(int index, const QString& file) {
+    if (!theme() || index < 0 || index >= _table.count() || !isFile(_table.row(index).kind))
+        return;
+    _list.setCurrent(index);
+    const KeyRow row = _table.row(index);
+    const FileRefusal refusal = replaceFile(*theme(), row, file.toStdString());
+    if (refusal.isNone()) {
+        changed(row.key);
+        return;
+    }
+    const QString reason =
+        refusal.message.empty() ? reasonWords(refusal.code) : Text(QString::fromStdString(refusal.message));
+    const QString allowed = allowedWords(row);
+    tell(reason, allowed.isEmpty() ? QString() : TextWith("kList_refused_allowed", allowed));
+}
+
+void CFullListPage::resetCurrent() {
+    if (!theme() || !hasCurrent())
+        return;
+    const KeyRow row = _table.row(current());
+    if (!canReset(row, _table.isChanged(current())))
+        return;
+    const int code = resetKey(*theme(), row);
+    if (code == returnCode::success) {
+        changed(row.key);
+        _list.setFocus(Qt::OtherFocusReason);
+    } else {
+        tell(reasonWords(code));
+    }
+}
+
+void CFullListPage::tell(const QString& reason, const QString& more) {
+    ZMessageBoxDlg::Message message;
+    message.kind = ZMessageBoxDlg::Kind::Warning;
+    message.titleKey = QString::fromUtf8(kDialog_Title_Waning_Info);
+    message.textKey = "%";
+    message.acceptKey = "kConfirm";
+    const QString words = more.isEmpty() ? reason : reason + "\n" + more;
+    ZMessageBoxDlg::tell(
+        message, [&](const QString& key) { return key == message.textKey ? words : Text(key); }, this);
+}
+
+void CFullListPage::copyValue() const {
+    if (!hasCurrent())
+        return;
+    const KeyRow& row = _table.row(current());
+    QApplication::clipboard()->setText(QString::fromStdString(isFile(row.kind) ? row.file : row.value));
+}
+
+void CFullListPage::pasteValue() {
+    if (!hasCurrent() || _table.row(current()).kind != KeyKind::colour)
+        return;
+    const std::optional<QColor> colour = colourOf(QApplication::clipboard()->text());
+    enterValue(colour ? colourText(*colour) : QString(), colour.has_value());
+}
+
+bool CFullListPage::listKey(const QKeyEvent& event) {
+    if (event.matches(QKeySequence::Copy))
+        copyValue();
+    else if (event.matches(QKeySequence::Paste))
+        pasteValue();
+    else if (event.key() == Qt::Key_F2)
+        activate(current());
+    else if (event.key() == Qt::Key_Delete)
+        resetCurrent();
+    else
+        return false;
+    return true;
+}
+
+bool CFullListPage::dropOnList(QEvent* event) {
+    auto* drop = static_cast<QDropEvent*>(event); // The move and enter events are drops, too.
+    const QStringList files = filesOf(*drop->mimeData());
+    const int index = rowAt(drop->position().toPoint());
+    const bool fits = files.size() == 1 && index >= 0 && isFile(_table.row(index).kind);
+    drop->setAccepted(fits);
+    if (!fits || event->type() != QEvent::Drop)
+        return true;
+    drop->acceptProposedAction();
+    // The program that the file comes from waits until the drop is done; a box must not keep it.
+    QMetaObject::invokeMethod(
+        this, [this, key = _table.row(index).key, file = files.first()] { replaceBy(_table.indexOf(key), file); },
+        Qt::QueuedConnection);
+    return true;
+}
+
+void CFullListPage::Notify(const Notification& message) {
+    ZPage::Notify(message);
+    if (message.name != notify::Notify_Drag_File || message.wParam != 0 || message.lParam == 0 || !isVisible())
+        return;
+    const auto& files = *reinterpret_cast<const QStringList*>(message.lParam);
+    if (files.size() == 1 && hasCurrent())
+        replaceBy(current(), QString(files.first()));
+}
+
+bool CFullListPage::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &_list && event->type() == QEvent::KeyPress)
+        return listKey(*static_cast<QKeyEvent*>(event));
+    if (watched == &_search && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down && _table.count() > 0) {
+        _list.setFocus(Qt::TabFocusReason);
+        return true;
+    }
+    if (watched == _list.viewport()) {
+        switch (event->type()) {
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
+        case QEvent::Drop:
+            return dropOnList(event);
+        case QEvent::Resize:
+            QMetaObject::invokeMethod(
+                this,
+                [this] {
+                    placeHead();
+                    placeEditor();
+                    showRange();
+                },
+                Qt::QueuedConnection);
+            break;
+        default:
+            break;
+        }
+    }
+    return ZPage::eventFilter(watched, event);
+}
+
+} // namespace zdt

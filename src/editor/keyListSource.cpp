@@ -1,0 +1,209 @@
+#include "editor/keyListSource.h"
+
+#include "kit/colourText.h"
+#include "kit/localisation.h"
+#include "model/pictureSize.h"
+#include "store/themeResource.h"
+#include "support/files.h"
+
+#include <algorithm>
+#include <map>
+
+namespace zdt {
+
+namespace {
+
+constexpr int opaque = 255;
+
+PictureSize sizeOf(const std::string& path) {
+    const PictureSize png = pngSize(path);
+    return png == PictureSize() ? jpegSize(path) : png;
+}
+
+std::optional<QColor> colourOfRow(const KeyRow& row) {
+    return row.kind == KeyKind::colour ? colourOf(QString::fromStdString(row.value)) : std::nullopt;
+}
+
+} // namespace
+
+QString fileFacts(const std::string& path) {
+    if (path.empty() || !isPlainFile(path))
+        return {};
+    const QString bytes = bytesWords(fileSize(path));
+    const PictureSize size = sizeOf(path);
+    return size == PictureSize() ? bytes : QString("%1 × %2, %3").arg(size.width).arg(size.height).arg(bytes);
+}
+
+KeyListSource::KeyListSource(QObject* parent)
+    : ZListViewDataSource(parent) {
+    connect(&_changes, &FileChanges::known, this, [this] {
+        findChanges();
+        if (_filter.changedOnly)
+            choose();
+        else if (count() > 0)
+            emit changed(0, count() - 1);
+        emit counted();
+    });
+    connect(&_thumbnails, &Thumbnails::ready, this, [this] {
+        if (count() > 0)
+            emit changed(0, count() - 1);
+    });
+}
+
+void KeyListSource::load(const ThemeResource* theme) {
+    _rows = theme ? keyRowsOf(*theme) : std::vector<KeyRow>();
+    _words.clear();
+    for (const KeyRow& row : _rows)
+        _words.push_back(wordsOf(row));
+    findChanges();
+    choose();
+}
+
+void KeyListSource::findChange(std::size_t at) {
+    const KeyRow& row = _rows[at];
+    _changed[at] = isFile(row.kind) ? _changes.differs(row.value, row.fallback)
+                                    : std::optional(!sameText(row.kind, row.value, row.fallback));
+}
+
+void KeyListSource::findChanges() {
+    _changed.resize(_rows.size());
+    for (std::size_t at = 0; at < _rows.size(); ++at)
+        findChange(at);
+    _changes.start();
+}
+
+void KeyListSource::setFilter(const KeyFilter& filter) {
+    _filter = filter;
+    choose();
+}
+
+void KeyListSource::choose() {
+    KeyFilter all = _filter;
+    all.changedOnly = false;
+    _filtered = shownRows(_rows, _words, all, {});
+    _shown = _filtered;
+    if (_filter.changedOnly)
+        std::erase_if(_shown, [&](int at) { return !_changed[static_cast<std::size_t>(at)].value_or(false); });
+    emit reset();
+    emit counted();
+}
+
+std::optional<int> KeyListSource::changedCount() const {
+    int changes = 0;
+    for (const int at : _filtered) {
+        const std::optional<bool>& changed = _changed[static_cast<std::size_t>(at)];
+        if (!changed)
+            return std::nullopt;
+        changes += *changed ? 1 : 0;
+    }
+    return changes;
+}
+
+const KeyRow* KeyListSource::find(const std::string& key) const {
+    const auto found = std::find_if(_rows.begin(), _rows.end(), [&](const KeyRow& row) {
+        return std::any_of(row.places.begin(), row.places.end(),
+                           [&](const KeyPlace& each) { return each.key() == key; });
+    });
+    return found == _rows.end() ? nullptr : &*found;
+}
+
+int KeyListSource::indexOf(const std::string& key) const {
+    for (int index = 0; index < count(); ++index) {
+        if (row(index).key == key)
+            return index;
+    }
+    return -1;
+}
+
+QList<QColor> KeyListSource::commonColours() const {
+    std::map<QRgb, int> counts;
+    for (const KeyRow& row : _rows) {
+        if (const std::optional<QColor> colour = colourOfRow(row))
+            ++counts[colour->rgba()];
+    }
+    std::vector<std::pair<QRgb, int>> sorted(counts.begin(), counts.end());
+    std::stable_sort(sorted.begin(), sorted.end(),
+                     [](const auto& one, const auto& other) { return one.second > other.second; });
+    QList<QColor> colours;
+    for (const auto& [colour, times] : sorted)
+        colours.append(QColor::fromRgba(colour));
+    return colours;
+}
+
+void KeyListSource::refresh(const ThemeResource& theme, const std::string& key) {
+    const KeyRow* meant = find(key);
+    if (!meant)
+        return;
+    const KeyPath path = meant->places.front().path();
+    for (std::size_t at = 0; at < _rows.size(); ++at) {
+        if (_rows[at].places.front().path() != path)
+            continue;
+        refreshRow(theme, _rows[at]);
+        findChange(at);
+        const auto shown = std::find(_shown.begin(), _shown.end(), static_cast<int>(at));
+        if (shown == _shown.end())
+            continue;
+        const int index = static_cast<int>(shown - _shown.begin());
+        emit changed(index, index);
+    }
+    _changes.start();
+    emit counted();
+}
+
+QWidget* KeyListSource::makeCell(int /*kind*/, QWidget* parent) {
+    auto* cell = new KeyCell(parent);
+    connect(cell, &KeyCell::swatchClicked, this, [this, cell] { emit swatchClicked(cell->property("index").toInt()); });
+    connect(cell, &KeyCell::valueClicked, this, [this, cell] { emit valueClicked(cell->property("index").toInt()); });
+    return cell;
+}
+
+void KeyListSource::fillFile(KeyCellContent& content, const KeyRow& row, double ratio) {
+    content.isPicture = true;
+    content.value = fileFacts(row.value);
+    content.isMuted = content.value.isEmpty();
+    if (content.isMuted)
+        content.value = Text("kList_no_file");
+    if (row.kind != KeyKind::picture || row.value.empty())
+        return;
+    content.thumbnail = _thumbnails.picture(row.value, QSize(swatchSide, swatchSide) * ratio);
+    content.thumbnail.setDevicePixelRatio(ratio);
+}
+
+void KeyListSource::fillCell(QWidget* widget, int index) {
+    auto* cell = static_cast<KeyCell*>(widget);
+    const KeyRow& row = this->row(index);
+    KeyCellContent content;
+    content.name = words(index).name;
+    content.changed = isChanged(index);
+    content.generations = row.generations;
+    content.appliesTo = words(index).appliesTo;
+    content.colour = colourOfRow(row);
+    content.value = QString::fromStdString(row.value);
+    if (content.colour) {
+        content.value = "#" + shownDigits(*content.colour);
+        if (content.colour->alpha() < opaque)
+            content.detail = QString("%1%").arg(percentOf(*content.colour));
+    } else if (isFile(row.kind)) {
+        fillFile(content, row, cell->devicePixelRatioF());
+    }
+    cell->setProperty("index", index);
+    cell->setChangedTip(Text("kList_changed_tip"));
+    cell->setContent(content);
+}
+
+void KeyListSource::showState(QWidget* cell, int /*index*/, const CellState& state) {
+    static_cast<KeyCell*>(cell)->setState(state);
+}
+
+QString KeyListSource::accessibleName(int index) const {
+    const KeyRow& row = this->row(index);
+    QStringList parts{words(index).name};
+    parts.append(isFile(row.kind) ? fileFacts(row.value) : QString::fromStdString(row.value));
+    parts.append(words(index).appliesTo);
+    if (isChanged(index))
+        parts.append(Text("kList_changed_tip"));
+    parts.removeAll(QString());
+    return parts.join(listSeparator());
+}
+
+} // namespace zdt

@@ -1,0 +1,97 @@
+#include "editor/previewCatalog.h"
+
+#include "editor/exportForm.h"
+#include "model/fileResNode.h"
+#include "modules/previewNode.h"
+#include "support/pattern.h"
+
+#include <algorithm>
+
+namespace zdt {
+
+namespace {
+
+constexpr std::string_view drawnName = "preview_drawn";
+constexpr std::string_view drawnCaption = "kExport_drawn";
+constexpr std::string_view reducedCaption = "kPreview";
+
+/// The digits of a numbered preview; empty for any other name.
+std::string numberOf(const std::string& name) {
+    static const Pattern& pattern = Pattern::of(numberedPreviewPattern);
+    std::vector<std::string> groups;
+    return pattern.matches(name, groups) ? groups[1] : std::string();
+}
+
+/// "preview_mms_2.jpg" stands before "preview_mms_10.jpg".
+bool standsBefore(const std::string& first, const std::string& second) {
+    const std::string one = numberOf(first);
+    const std::string other = numberOf(second);
+    return one.size() != other.size() ? one.size() < other.size() : first < second;
+}
+
+PreviewSection sectionOf(const std::vector<std::pair<std::string, std::string>>& pictures,
+                         std::vector<std::string> names) {
+    std::sort(names.begin(), names.end(), standsBefore);
+    PreviewSection section;
+    for (const std::string& name : names) {
+        const auto found =
+            std::find_if(pictures.begin(), pictures.end(), [&](const auto& each) { return each.first == name; });
+        section.pictures.push_back({name, found->second});
+    }
+    return section;
+}
+
+} // namespace
+
+std::vector<PreviewSection> previewSections(const std::vector<std::pair<std::string, std::string>>& pictures,
+                                            unsigned generation, bool reduced) {
+    std::vector<std::string> names;
+    for (const auto& [name, file] : pictures)
+        names.push_back(name);
+
+    std::vector<PreviewSection> sections;
+    const auto add = [&](std::vector<std::string> shown, std::string_view name, std::string_view caption, bool drawn) {
+        PreviewSection section = sectionOf(pictures, std::move(shown));
+        section.name = name;
+        section.captionKey = caption;
+        section.isDrawn = drawn;
+        if (!section.pictures.empty())
+            sections.push_back(std::move(section));
+    };
+    if (reduced) {
+        add(previewsOfNoGroup(names), "preview_other", reducedCaption, false);
+        return sections;
+    }
+    for (const PreviewGroup& group : previewGroups())
+        add(previewsOf(group, names, generation), group.name, group.captionKey, false);
+    std::erase_if(names, [](const std::string& name) { return !isProtectedPreview(name); });
+    add(names, drawnName, drawnCaption, true);
+    return sections;
+}
+
+std::string captionNumber(const PreviewSection& section, const std::string& name) {
+    if (section.pictures.size() < 2)
+        return {};
+    const auto found = std::find_if(section.pictures.begin(), section.pictures.end(),
+                                    [&](const PreviewPicture& each) { return each.name == name; });
+    return std::to_string(found - section.pictures.begin() + 1);
+}
+
+std::vector<SectionPlace> placeSections(const std::vector<int>& counts, int columns) {
+    std::vector<SectionPlace> places;
+    int row = 0;
+    int column = 0;
+    for (const int count : counts) {
+        if (column > 0 && column + count > columns) {
+            ++row;
+            column = 0;
+        }
+        const int rows = (count + columns - 1) / columns;
+        places.push_back({row, column, std::min(count, columns), rows});
+        row += rows - 1;
+        column += rows > 1 ? columns : count;
+    }
+    return places;
+}
+
+} // namespace zdt

@@ -1,0 +1,156 @@
+#include "shell/editorPages.h"
+
+#include "editor/fullListPage.h"
+#include "editor/problemPage.h"
+#include "kit/controlSearch.h"
+#include "kit/countButton.h"
+#include "shell/pageMaker.h"
+
+#include <QAbstractButton>
+#include <QStackedWidget>
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace zdt {
+
+namespace {
+
+constexpr const char* allKeys = "all";
+/// The navigation has no rows of their own for these: they belong to what the author calls contacts.
+constexpr std::array<const char*, 3> partsOfContacts{"phone", "recorder", "telecom"};
+/// What a small theme has.
+constexpr std::array<const char*, 5> partsOfSmall{"icons", "wallpaper", "unlock", "preview", allKeys};
+
+QString moduleOf(const ZCountButton& row) {
+    return row.property("module").toString();
+}
+
+} // namespace
+
+CEditorPages::CEditorPages(Workbench& bench, QWidget* frame)
+    : QObject(frame)
+    , _bench(bench)
+    , _place(FindControl<QStackedWidget>(frame, "ResMainBussinessLayout")) {
+    for (ZCountButton* row : frame->findChildren<ZCountButton*>()) {
+        if (moduleOf(*row).isEmpty())
+            continue;
+        _rows.push_back(row);
+        connect(row, &QAbstractButton::clicked, this, [this, row] { showModule(moduleOf(*row)); });
+    }
+}
+
+void CEditorPages::makeList() {
+    if (_listPlace)
+        return;
+    _list = makePage<CFullListPage>(_place, _listPlace, _bench);
+}
+
+void CEditorPages::makeProblems() {
+    if (_problemPlace)
+        return;
+    _problems = makePage<CProblemPage>(_place, _problemPlace, _bench);
+    if (!_problems)
+        return;
+    connect(_problems, &CProblemPage::jumpRequested, this, &CEditorPages::showKey);
+    connect(_problems, &CProblemPage::countsChanged, this, &CEditorPages::showCounts);
+}
+
+void CEditorPages::prepare() {
+    makeList();
+    makeProblems();
+}
+
+void CEditorPages::start() {
+    prepare();
+    showKind();
+    showFirst();
+}
+
+void CEditorPages::showFirst() {
+    const bool isBig = _bench.theme() && _bench.theme()->isBigTheme();
+    showModule(isBig ? "commonSetting" : "icons");
+}
+
+void CEditorPages::showModule(const QString& module) {
+    makeList();
+    checkRow(module);
+    _place.setCurrentWidget(_listPlace);
+    if (_list)
+        _list->showModule(module == allKeys ? std::string() : module.toStdString());
+    emit changed();
+}
+
+void CEditorPages::showProblems() {
+    makeProblems();
+    checkRow({});
+    _place.setCurrentWidget(_problemPlace);
+    emit changed();
+}
+
+bool CEditorPages::showsProblems() const {
+    return _problemPlace && _place.currentWidget() == _problemPlace;
+}
+
+void CEditorPages::showKey(const QString& key) {
+    if (!key.contains('/')) {
+        emit descriptionRequested();
+        return;
+    }
+    makeList();
+    if (!_list || !_list->showLeaf(key.toStdString()))
+        return;
+    const QStringList names = key.split('/');
+    const bool isShared = names.value(1) == "commonSetting";
+    checkRow(isShared ? names[1] : names[0]);
+    _place.setCurrentWidget(_listPlace);
+    emit changed();
+}
+
+void CEditorPages::focusSearch() {
+    if (_list && _place.currentWidget() == _listPlace)
+        _list->focusSearch();
+}
+
+void CEditorPages::checkRow(const QString& module) {
+    const bool isPart = std::find(partsOfContacts.begin(), partsOfContacts.end(), module) != partsOfContacts.end();
+    const QString shown = isPart ? QString("contacts") : module;
+    for (ZCountButton* row : _rows) {
+        // Of exclusive buttons one is always checked, unless none is exclusive for a moment.
+        row->setAutoExclusive(false);
+        row->setChecked(moduleOf(*row) == shown);
+    }
+    for (ZCountButton* row : _rows)
+        row->setAutoExclusive(true);
+}
+
+void CEditorPages::showKind() {
+    const bool isBig = _bench.theme() && _bench.theme()->isBigTheme();
+    for (ZCountButton* row : _rows) {
+        const bool inSmall = std::find(partsOfSmall.begin(), partsOfSmall.end(), moduleOf(*row)) != partsOfSmall.end();
+        row->setVisible(isBig || inSmall);
+    }
+}
+
+int CEditorPages::problemCount() const {
+    return _problems ? _problems->count() : 0;
+}
+
+void CEditorPages::showCounts() {
+    const std::map<std::string, int> counts = _problems->countsByModule();
+    for (ZCountButton* row : _rows) {
+        const auto found = counts.find(moduleOf(*row).toStdString());
+        int count = found == counts.end() ? 0 : found->second;
+        if (moduleOf(*row) == "contacts") {
+            for (const char* part : partsOfContacts) {
+                const auto more = counts.find(part);
+                count += more == counts.end() ? 0 : more->second;
+            }
+        }
+        row->setCount(count);
+    }
+    emit changed();
+}
+
+} // namespace zdt

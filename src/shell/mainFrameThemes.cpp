@@ -1,0 +1,285 @@
+#include "shell/mainFrame.h"
+
+#include "editor/exportPage.h"
+#include "kit/layoutError.h"
+#include "kit/localisation.h"
+#include "kit/messageBoxes.h"
+#include "kit/notificationNames.h"
+#include "kit/progressDialog.h"
+#include "kit/segmentedControl.h"
+#include "kit/skinFolder.h"
+#include "kit/textLookup.h"
+#include "shell/dropVeil.h"
+#include "shell/editorPages.h"
+#include "shell/languageChoice.h"
+#include "shell/pageMaker.h"
+#include "shell/startPage.h"
+#include "shell/themeImport.h"
+#include "support/atomicFile.h"
+#include "support/files.h"
+
+#include <QAbstractButton>
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLocale>
+#include <QMimeData>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QUrl>
+
+#include <stdexcept>
+#include <utility>
+
+/// What the main window does with themes: makes, opens, imports, exports and deletes them, and the language.
+namespace zdt {
+
+namespace {
+
+QStringList localPaths(const QMimeData& data) {
+    QStringList paths;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile())
+            paths += url.toLocalFile();
+    }
+    return paths;
+}
+
+QString shown(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+} // namespace
+
+void CMainFrameWnd::newTheme() {
+    std::optional<NewTheme> wanted;
+    try {
+        wanted = CNewThemeDialog::ask(_bench, ThemeResource::listThemes(_bench.root()), this);
+    } catch (const LayoutError& error) {
+        tellNote(this, "kWindow_layout_damaged", {QString::fromUtf8(error.what())});
+    }
+    if (wanted)
+        createTheme(*wanted);
+}
+
+void CMainFrameWnd::createTheme(const NewTheme& wanted) {
+    _bench.closeTheme();
+    std::unique_ptr<ThemeResource> made;
+    const bool isChinese = GetLanguage() == chineseLanguage;
+    static_cast<void>(ZProgressDialog(Text("kStart_creating"), this).run([&](const Progress&) {
+        made = ThemeResource::createTheme(wanted.name, wanted.generation, wanted.small ? 1 : 0, false, isChinese,
+                                          _bench.root());
+        if (made && !wanted.chineseName.empty())
+            made->setValues({}, {{"title-cn", wanted.chineseName}});
+        return made && made->setValues({}, {{"title", wanted.name}}).size() == 1 && made->applyNode({});
+    }));
+    // Its settings, its kind above all, are on disk as soon as it is closed.
+    made.reset();
+    if (!isFolder(_bench.root() + "res/" + wanted.name)) {
+        tellNote(this, "kStart_create_failed");
+        return;
+    }
+    openTheme(wanted.name);
+}
+
+void CMainFrameWnd::openTheme(const std::string& name) {
+    if (!isFolder(_bench.root() + "res/" + name)) {
+        tellNote(this, "kStart_gone", {shown(name)});
+        if (_start)
+            _start->refill();
+        return;
+    }
+    _bench.closeTheme();
+    try {
+        _bench.takeTheme(ThemeResource::openTheme(name, GetLanguage() == chineseLanguage, _bench.root()));
+    } catch (const std::invalid_argument&) {
+        tellNote(this, "kStart_damaged", {shown(name)});
+        return;
+    }
+    if (!_bench.theme())
+        tellNote(this, "kStart_open_failed", {shown(name)});
+    else if (_bench.theme()->version() != unknownGeneration || askGeneration(name))
+        enterEditor();
+    else
+        _bench.closeTheme();
+}
+
+bool CMainFrameWnd::askGeneration(const std::string& name) {
+    ZBaseDialog dialog(this);
+    dialog.setObjectName("generationDialog");
+    dialog.setTitle(Text("kStart_choose_generation_title"));
+    dialog.setMinimumWidth(400);
+    auto* sentence = new QLabel(Text("kStart_choose_generation").arg(shown(name)));
+    sentence->setTextFormat(Qt::PlainText);
+    sentence->setWordWrap(true);
+    auto* choice = new ZSegmented;
+    choice->setObjectName("generationChoice");
+    choice->setLabels({"OVUI5.0", "OVUI8.0", "OVUI9.1"});
+    choice->setCurrentIndex(generation9Index);
+    dialog.body()->setSpacing(16);
+    dialog.body()->addWidget(sentence);
+    dialog.body()->addWidget(choice);
+    connect(dialog.addButton(Text("kCancel"), "generationCancel"), &QPushButton::clicked, &dialog, &QDialog::reject);
+    QPushButton* accept = dialog.addButton(Text("kConfirm"), "generationAccept", "filled");
+    accept->setDefault(true);
+    connect(accept, &QPushButton::clicked, &dialog, &QDialog::accept);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    if (_bench.theme()->changeGeneration(static_cast<unsigned>(choice->currentIndex())))
+        return true;
+    tellNote(this, "kStart_open_failed", {shown(name)});
+    return false;
+}
+
+void CMainFrameWnd::enterEditor() {
+    CPaintManagerUI& hub = _bench.notifications();
+    hub.SendNotify(this, notify::Notify_ChangeTheme);
+    showKind();
+    _pages->start();
+    showTab(Tab::editor);
+    // The list of problems takes longer than the page, which is seen first.
+    hub.SendNotify(this, notify::Notify_Error_List_refresh, 0, 0, true);
+}
+
+void CMainFrameWnd::returnToStart() {
+    CPaintManagerUI& hub = _bench.notifications();
+    hub.SendNotify(this, notify::Reload_change_unlock_ratio);
+    const std::string name = _bench.theme() ? _bench.theme()->name() : std::string();
+    _title.clear();
+    showTab(Tab::start);
+    hub.SendNotify(this, notify::Reload_history_themes);
+    if (_start)
+        _start->select(name);
+    hub.SendNotify(this, notify::Reload_change_unlock_pendant_ratio);
+}
+
+void CMainFrameWnd::deleteTheme(const std::string& name) {
+    ZMessageBoxDlg::Message question;
+    question.kind = ZMessageBoxDlg::Kind::Warning;
+    question.titleKey = "kStart_delete_title";
+    question.textKey = "kStart_delete_question";
+    question.arguments = QStringList{shown(name)};
+    question.acceptKey = "kStart_delete";
+    question.rejectKey = "kCancel";
+    question.rejectByDefault = true;
+    if (!ZMessageBoxDlg::ask(question, Text, this))
+        return;
+    if (_bench.theme() && _bench.theme()->name() == name)
+        _bench.closeTheme();
+    if (!ThemeResource::deleteTheme(name, _bench.root()))
+        tellNote(this, "kStart_delete_failed", {shown(name)});
+    _bench.notifications().SendNotify(this, notify::Reload_history_themes);
+}
+
+void CMainFrameWnd::chooseImport() {
+    QFileDialog dialog(this, Text("kStart_import"));
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    dialog.setNameFilter(Text("kStart_import_filter") + " (*.zdt *.ZDT)");
+    if (dialog.exec() == QDialog::Accepted)
+        importPaths(dialog.selectedFiles());
+}
+
+void CMainFrameWnd::importPaths(const QStringList& paths) {
+    const std::vector<std::string> sources = importableAmong(paths);
+    if (sources.empty()) {
+        tellNote(this, "kStart_no_package");
+        return;
+    }
+    const std::vector<std::string> imported = importThemes(_bench, this, sources);
+    // The theme that was open may have been replaced.
+    if (!_bench.theme() && tab() != Tab::start)
+        returnToStart();
+    if (imported.empty())
+        return;
+    _bench.notifications().SendNotify(this, notify::Reload_history_themes);
+    if (_start)
+        _start->select(imported.front());
+}
+
+void CMainFrameWnd::openExport() {
+    if (!_bench.theme())
+        return;
+    if (!_export) {
+        QWidget* shownPage = nullptr;
+        _export = makePageIn<CResEditOutPutDlg>(*_tabs.widget(static_cast<int>(Tab::exporting)), shownPage, _bench);
+        if (_export) {
+            connect(_export, &CResEditOutPutDlg::done, this, &CMainFrameWnd::exportEnded);
+            connect(_export, &CResEditOutPutDlg::valuesStored, this,
+                    [this] { _bench.notifications().SendNotify(this, notify::Notify_ReloadTopTitleText); });
+        }
+    }
+    showTab(Tab::exporting);
+    if (_export)
+        _export->open();
+}
+
+void CMainFrameWnd::exportEnded(int result) {
+    showTab(Tab::editor);
+    if (result == 1) {
+        CPaintManagerUI& hub = _bench.notifications();
+        for (const char* name : {notify::Notify_ReloadDataMsg, notify::Notify_ReloadBigorSmall,
+                                 notify::Notify_ReloadTopTitleText, notify::Notify_SetFirstPage})
+            hub.SendNotify(this, name);
+    }
+    if (std::exchange(_problemsCame, false))
+        showProblems();
+}
+
+void CMainFrameWnd::chooseFirstLanguage() {
+    const std::string setting = languageSetting(loadConfig());
+    const std::optional<int> chosen = languageAtStart(setting, isSimplifiedChinese(QLocale::system().name().toStdString()));
+    if (chosen)
+        chooseLanguage(*chosen);
+    else
+        SetLanguage(GetLanguage());
+    _chinese.setChecked(GetLanguage() == chineseLanguage);
+    _english.setChecked(GetLanguage() == englishLanguage);
+}
+
+void CMainFrameWnd::chooseLanguage(int language) {
+    writeConfig(language);
+    CPaintManagerUI& hub = _bench.notifications();
+    hub.SendNotify(this, notify::Reload_change_unlock_ratio);
+    _chinese.setChecked(language == chineseLanguage);
+    _english.setChecked(language == englishLanguage);
+    SetLanguage(language);
+    if (_bench.theme())
+        _bench.theme()->setLanguageBit(language == chineseLanguage);
+    relabel(this, Text);
+    showKind();
+    hub.SendNotify(this, notify::Notify_ReloadDataMsg);
+    hub.SendNotify(this, notify::Notify_Error_List_refresh);
+}
+
+void CMainFrameWnd::dragEnterEvent(QDragEnterEvent* event) {
+    const QStringList paths = localPaths(*event->mimeData());
+    if (hasDialog() || paths.isEmpty())
+        return;
+    event->acceptProposedAction();
+    if (!importableAmong(paths).empty())
+        _veil->present(Text("kWindow_drop_release"));
+}
+
+void CMainFrameWnd::dragLeaveEvent(QDragLeaveEvent*) {
+    _veil->hide();
+}
+
+void CMainFrameWnd::dropEvent(QDropEvent* event) {
+    _veil->hide();
+    const QStringList paths = localPaths(*event->mimeData());
+    event->acceptProposedAction();
+    // What follows may ask: only once the program that dragged has its answer.
+    QMetaObject::invokeMethod(
+        this, [this, paths] { takeDropped(paths); }, Qt::QueuedConnection);
+}
+
+void CMainFrameWnd::takeDropped(const QStringList& paths) {
+    if (tab() == Tab::start || tab() == Tab::about || !importableAmong(paths).empty())
+        importPaths(paths);
+    else
+        _bench.notifications().SendNotify(this, notify::Notify_Drag_File, 0,
+                                          reinterpret_cast<std::intptr_t>(&paths));
+}
+
+} // namespace zdt

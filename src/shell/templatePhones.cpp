@@ -1,0 +1,91 @@
+#include "shell/templatePhones.h"
+
+#include "kit/shadow.h"
+#include "kit/skinFolder.h"
+#include "kit/tokens.h"
+
+#include <QImageReader>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <string>
+
+namespace zdt {
+
+namespace {
+
+/// A phone's outer place in the picture of all three, which is 512 by 488, and the preview that its screen shows.
+struct Phone {
+    QRect place;
+    const char* preview;
+};
+
+constexpr QSize allPhones(512, 488);
+constexpr int bezel = 8;
+constexpr int outerRadius = 30;
+constexpr int innerRadius = 22;
+constexpr QColor body(0x1B, 0x1C, 0x1F);
+
+const std::array<Phone, 3> phones{{{QRect(0, 56, 200, 400), "preview_widget_0.jpg"},
+                                   {QRect(312, 56, 200, 400), "preview_mms_0.jpg"},
+                                   {QRect(134, 0, 252, 488), "cover.jpg"}}};
+
+QPixmap readScreen(const char* name, QSize wanted, double ratio) {
+    const std::string folder = skinRoots().program + "default9.1/preview/";
+    QImageReader reader(QString::fromStdString(folder + name));
+    const QSize size = reader.size();
+    if (!size.isValid())
+        return {};
+    const QSize scaled = size.scaled(wanted * ratio, Qt::KeepAspectRatioByExpanding);
+    reader.setScaledSize(scaled);
+    QPixmap screen = QPixmap::fromImage(reader.read());
+    screen.setDevicePixelRatio(ratio);
+    return screen;
+}
+
+} // namespace
+
+CTemplatePhones::CTemplatePhones(QWidget* parent)
+    : QWidget(parent) {
+    setMinimumSize(360, 343);
+}
+
+void CTemplatePhones::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (_loaded)
+        return;
+    _loaded = true;
+    for (std::size_t index = 0; index < phones.size(); ++index)
+        _screens[index] = readScreen(phones[index].preview, phones[index].place.size() * 1.5, devicePixelRatioF());
+}
+
+void CTemplatePhones::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const double scale =
+        std::min({1.35, double(width()) / allPhones.width(), double(height()) / (allPhones.height() + 40)});
+    painter.translate((width() - allPhones.width() * scale) / 2, (height() - allPhones.height() * scale) / 2);
+    painter.scale(scale, scale);
+    for (std::size_t index = 0; index < phones.size(); ++index) {
+        if (_screens[index].isNull())
+            continue;
+        const QRect place = phones[index].place;
+        paintShadow(painter, place, outerRadius, token::shadowPhone);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(body);
+        painter.drawRoundedRect(place, outerRadius, outerRadius);
+        const QRectF screen = place.adjusted(bezel, bezel, -bezel, -bezel);
+        QPainterPath shape;
+        shape.addRoundedRect(screen, innerRadius, innerRadius);
+        painter.save();
+        painter.setClipPath(shape);
+        const QSizeF size = QSizeF(_screens[index].size()).scaled(screen.size(), Qt::KeepAspectRatioByExpanding);
+        const QRectF target(QPointF(screen.center().x() - size.width() / 2, screen.top()), size);
+        painter.drawPixmap(target, _screens[index], QRectF(QPointF(), _screens[index].size()));
+        painter.restore();
+    }
+}
+
+} // namespace zdt

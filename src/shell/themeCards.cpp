@@ -1,0 +1,87 @@
+#include "shell/themeCards.h"
+
+#include "kit/localisation.h"
+#include "shell/themeCardCell.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace zdt {
+
+namespace {
+
+/// A card's width varies a little with the window; its cover is decoded once, for the widest.
+constexpr int widestCover = 216;
+
+} // namespace
+
+ThemeCards::ThemeCards(const std::string& root, double ratio, QObject* parent)
+    : ZFlowViewDataSource(parent)
+    , _covers(root, QSize(widestCover, widestCover * 16 / 9) * ratio) {
+    connect(&_covers, &CoverLoader::loaded, this, [this](const QString& name) {
+        const int index = indexOf(name.toStdString());
+        if (index >= 0)
+            emit changed(index, index);
+    });
+}
+
+void ThemeCards::setThemes(std::vector<ThemeCard> themes) {
+    _themes = std::move(themes);
+    find();
+}
+
+void ThemeCards::setSearch(const QString& text) {
+    _search = text.trimmed().toStdString();
+    find();
+}
+
+void ThemeCards::refresh() {
+    if (count() > 0)
+        emit changed(0, count() - 1);
+}
+
+void ThemeCards::find() {
+    _found.clear();
+    for (std::size_t index = 0; index < _themes.size(); ++index) {
+        if (matchesSearch(_themes[index], _search))
+            _found.push_back(index);
+    }
+    emit reset();
+}
+
+int ThemeCards::indexOf(const std::string& name) const {
+    const auto found =
+        std::find_if(_found.begin(), _found.end(), [&](std::size_t index) { return _themes[index].name == name; });
+    return found == _found.end() ? -1 : static_cast<int>(found - _found.begin());
+}
+
+QSize ThemeCards::cellSize() const {
+    return {cardLeastWidth, cardHeight};
+}
+
+QWidget* ThemeCards::makeCell(int, QWidget* parent) {
+    auto* cell = new ThemeCardCell(parent);
+    connect(cell, &ThemeCardCell::openRequested, this, &ThemeCards::openRequested);
+    connect(cell, &ThemeCardCell::menuRequested, this, &ThemeCards::menuRequested);
+    return cell;
+}
+
+void ThemeCards::fillCell(QWidget* cell, int index) {
+    const ThemeCard& card = theme(index);
+    const CoverLoader::Entry* known = _covers.entry(card);
+    static_cast<ThemeCardCell*>(cell)->show(index, card, known ? known->cover : QPixmap(),
+                                            known ? std::optional(known->bytes) : std::nullopt);
+}
+
+QString ThemeCards::accessibleName(int index) const {
+    const ThemeCard& card = theme(index);
+    const QString name = QString::fromStdString(card.name);
+    return card.chineseTitle.empty() ? name : name + ", " + QString::fromStdString(card.chineseTitle);
+}
+
+void ThemeCards::showState(QWidget* cell, int, const CellState& state) {
+    static_cast<ThemeCardCell*>(cell)->showState(state);
+}
+
+} // namespace zdt
