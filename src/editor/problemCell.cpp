@@ -5,6 +5,7 @@
 #include "kit/localisation.h"
 #include "kit/thumbnail.h"
 #include "kit/tokens.h"
+#include "lockscreen/amazingUnlockNode.h"
 #include "model/returnCode.h"
 
 #include <QHBoxLayout>
@@ -23,6 +24,7 @@ constexpr int iconSide = 20;
 constexpr int gap = 12;
 constexpr int buttonGap = 8;
 constexpr int placeWidth = 148;
+constexpr int leastWithPlace = 880;
 constexpr int goToWidth = 64;
 constexpr int restoreWidth = 112;
 
@@ -53,7 +55,7 @@ void ProblemThumbnail::show(const ProblemRow& row, const QPixmap& picture) {
     _picture = picture;
     _colour = QColor(QString::fromStdString(row.colour));
     _subject = row.subject;
-    _isMissing = row.problem.code != returnCode::unreadablePicture && row.problem.code != returnCode::damagedFile;
+    _isMissing = row.problem.code == returnCode::missingFile || row.problem.code == incompleteMusic;
     update();
 }
 
@@ -129,10 +131,11 @@ void ProblemCell::fill(const ProblemRow& row, const QPixmap& picture, CardPlace 
     _place = place;
     _thumbnail->show(row, picture);
     _reason->setText(reasonText(row.reason));
-    _detail->setText(QString::fromStdString(row.detail));
+    _detailWords = QString::fromStdString(row.detail);
     const std::string& full = row.problem.path.empty() ? row.problem.key : row.problem.path;
     _detail->setToolTip(QString::fromStdString(full).toHtmlEscaped());
     _placeWords->setText(placeText(row));
+    sayDetail();
     const bool canRestore = row.restore != ProblemRestore::none;
     _goTo->setText(Text("kProblems_go_to"));
     _goTo->setToolTip(Text("kProblems_go_to_tip"));
@@ -141,6 +144,18 @@ void ProblemCell::fill(const ProblemRow& row, const QPixmap& picture, CardPlace 
     _restore->setEnabled(canRestore);
     layout()->setContentsMargins(padding + iconSide + gap, place.first ? 1 : 0, padding, 1);
     update();
+}
+
+/// Where there is no room for a column of its own, the place stands behind the file's name.
+void ProblemCell::sayDetail() {
+    const bool hasColumn = width() >= leastWithPlace;
+    _placeWords->setVisible(hasColumn);
+    _detail->setText(hasColumn ? _detailWords : _detailWords + " · " + _placeWords->text());
+}
+
+void ProblemCell::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    sayDetail();
 }
 
 void ProblemCell::setState(const CellState& state) {

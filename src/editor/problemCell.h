@@ -57,14 +57,16 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void makeTexts();
+    void sayDetail();
     QPushButton* makeButton(const char* name, int width);
 
     ProblemKind _kind = ProblemKind::mustFix;
     CardPlace _place;
     CellState _state;
+    QString _detailWords;
     ProblemThumbnail* _thumbnail;
     ZElidedLabel* _reason;
     ZElidedLabel* _detail;

@@ -24,6 +24,8 @@ constexpr std::array groupIcons{
     GroupIcon{"unlock", Icon::LockOutline},     GroupIcon{"preview", Icon::FilterNone},
 };
 
+constexpr char16_t ideographicStop = 0x3002;
+
 struct SubjectKeys {
     const char* word;
     const char* place; ///< With the module's word in it.
@@ -41,12 +43,16 @@ constexpr std::array<SubjectKeys, problemSubjectCount> subjectKeys{{
 } // namespace
 
 QString reasonText(const std::vector<Sentence>& reason) {
+    const bool isChinese = GetLanguage() == chineseLanguage;
+    const QString stop = isChinese ? QString(QChar(ideographicStop)) : QString(".");
     QStringList sentences;
     for (const Sentence& each : reason) {
         const QString key = QString::fromStdString(each.key);
-        sentences += each.word.empty() ? Text(key) : TextWith(key, QString::fromStdString(each.word));
+        const QString text = each.word.empty() ? Text(key) : TextWith(key, QString::fromStdString(each.word));
+        // The texts of the codes are hints elsewhere, and have none.
+        sentences += text.endsWith(stop) ? text : text + stop;
     }
-    return sentences.join(GetLanguage() == chineseLanguage ? "" : " ");
+    return sentences.join(isChinese ? "" : " ");
 }
 
 QString placeText(const ProblemRow& row) {

@@ -101,6 +101,9 @@ QPushButton* ZBaseDialog::addButton(const QString& text, const QString& name, co
     button->setObjectName(name);
     button->setProperty("kind", kind);
     button->setMinimumWidth(token::dialogButtonWidth);
+    // In its window a dialog is no window of its own; there, a default button that loses the focus would be none any
+    // more. So the focus changes nothing, and Enter on a button is seen to below.
+    button->setAutoDefault(false);
     _buttons->insertWidget(place, button);
     _foot->show();
     return button;
@@ -118,12 +121,16 @@ void ZBaseDialog::setClosable(bool closable) {
 }
 
 void ZBaseDialog::setVisible(bool visible) {
+    // Moving into the host loses what was chosen to have the focus first.
+    const QPointer<QWidget> first = isVisible() ? nullptr : focusWidget();
     if (visible && !isVisible() && !_scrim)
         enterHost();
     QDialog::setVisible(visible);
     if (visible && _scrim) {
         _scrim->present();
-        if (!focusWidget())
+        if (first)
+            first->setFocus();
+        else if (!focusWidget())
             focusNextChild();
         else
             focusWidget()->setFocus();
@@ -150,6 +157,9 @@ void ZBaseDialog::leaveHost() {
     auto* framed = qobject_cast<ZWindow*>(_scrim->parentWidget());
     Scrim* scrim = _scrim;
     _scrim = nullptr;
+    // Or the host would go on pointing to a widget that isn't in it any more.
+    if (QWidget* focused = focusWidget())
+        focused->clearFocus();
     setParent(nullptr, Qt::Dialog | Qt::FramelessWindowHint);
     scrim->hide();
     scrim->deleteLater();
@@ -185,7 +195,12 @@ bool ZBaseDialog::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void ZBaseDialog::keyPressEvent(QKeyEvent* event) {
-    QDialog::keyPressEvent(event);
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    if (isEnter && button && (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier)
+        button->click();
+    else
+        QDialog::keyPressEvent(event);
     // What a dialog doesn't want must not reach the window below it.
     event->accept();
 }

@@ -3,6 +3,7 @@
 #include "kit/fonts.h"
 #include "kit/tokens.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -65,6 +66,14 @@ QSize ZOptionCard::sizeHint() const {
     const int picture = _pictureWidth > 0 ? _pictureWidth + pictureGap : 0;
     const int texts = nameHigh + (_lines.isEmpty() ? 0 : linesBelow + lineHigh * static_cast<int>(_lines.size()));
     return {2 * padding + picture + wide, 2 * padding + texts};
+}
+
+void ZOptionCard::keyPressEvent(QKeyEvent* event) {
+    // Some systems let Enter press every button; here it belongs to the dialog, as with radio buttons.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        event->ignore();
+    else
+        QAbstractButton::keyPressEvent(event);
 }
 
 void ZOptionCard::enterEvent(QEnterEvent* event) {

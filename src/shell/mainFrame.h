@@ -67,7 +67,7 @@ private:
     void openAbout();
     void takeQtWords(int language);
     void newTheme();
-    void createTheme(const NewTheme& wanted);
+    void createTheme(const ThemeWish& wanted);
     void chooseImport();
     void enterEditor();
     [[nodiscard]] bool askGeneration(const std::string& name);

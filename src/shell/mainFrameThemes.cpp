@@ -53,7 +53,7 @@ QString shown(const std::string& text) {
 } // namespace
 
 void CMainFrameWnd::newTheme() {
-    std::optional<NewTheme> wanted;
+    std::optional<ThemeWish> wanted;
     try {
         wanted = CNewThemeDialog::ask(_bench, ThemeResource::listThemes(_bench.root()), this);
     } catch (const LayoutError& error) {
@@ -63,7 +63,7 @@ void CMainFrameWnd::newTheme() {
         createTheme(*wanted);
 }
 
-void CMainFrameWnd::createTheme(const NewTheme& wanted) {
+void CMainFrameWnd::createTheme(const ThemeWish& wanted) {
     _bench.closeTheme();
     std::unique_ptr<ThemeResource> made;
     const bool isChinese = GetLanguage() == chineseLanguage;

@@ -140,8 +140,8 @@ bool CNewThemeDialog::checkChinese() {
     return isFine;
 }
 
-NewTheme CNewThemeDialog::chosen() const {
-    NewTheme theme{_name.edit->text().trimmed().toStdString(), _chinese.edit->text().trimmed().toStdString(), 0,
+ThemeWish CNewThemeDialog::chosen() const {
+    ThemeWish theme{_name.edit->text().trimmed().toStdString(), _chinese.edit->text().trimmed().toStdString(), 0,
                    _small->isChecked()};
     for (unsigned index = 0; index < generationCount; ++index) {
         if (_generations[index]->isChecked())
@@ -162,7 +162,7 @@ void CNewThemeDialog::create() {
     wrong->selectAll();
 }
 
-std::optional<NewTheme> CNewThemeDialog::ask(Workbench& bench, const std::vector<std::string>& taken, QWidget* parent) {
+std::optional<ThemeWish> CNewThemeDialog::ask(Workbench& bench, const std::vector<std::string>& taken, QWidget* parent) {
     CNewThemeDialog dialog(bench, taken, parent);
     return dialog.exec() == Accepted ? std::optional(dialog.chosen()) : std::nullopt;
 }

@@ -19,7 +19,7 @@ namespace zdt {
 class ZOptionCard;
 
 /// What an author asks for.
-struct NewTheme {
+struct ThemeWish {
     std::string name;        ///< Free, and allowed by `checkThemeName`.
     std::string chineseName; ///< Empty if none was given.
     unsigned generation = 0; ///< Its index.
@@ -36,11 +36,11 @@ public:
     CNewThemeDialog(Workbench& bench, std::vector<std::string> taken, QWidget* parent);
 
     /// What stands in the dialog, blanks at the names' ends left out.
-    [[nodiscard]] NewTheme chosen() const;
+    [[nodiscard]] ThemeWish chosen() const;
 
     /// Shows the dialog and waits; nothing if it was cancelled.
     /// @throws LayoutError as the constructor
-    [[nodiscard]] static std::optional<NewTheme> ask(Workbench& bench, const std::vector<std::string>& taken,
+    [[nodiscard]] static std::optional<ThemeWish> ask(Workbench& bench, const std::vector<std::string>& taken,
                                                      QWidget* parent);
 
 private:

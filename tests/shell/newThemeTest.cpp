@@ -2,6 +2,7 @@
 #include "kit/controlSearch.h"
 #include "kit/layoutError.h"
 #include "kit/optionCard.h"
+#include "kit/window.h"
 #include "shell/newThemeDialog.h"
 #include "shell/newThemeRules.h"
 
@@ -135,18 +136,25 @@ TEST_F(NewThemeTest, CardsAreChosenByKeysAloneAndByClicks) {
         EXPECT_EQ(control<ZOptionCard>(card).picture().deviceIndependentSize().width(), 64) << card;
 }
 
-TEST_F(NewThemeTest, AskGivesWhatWasChosenOrNothing) {
+TEST_F(NewThemeTest, AskGivesWhatWasTypedInItsWindowOrNothing) {
+    ZWindow window;
+    window.resize(1024, 740);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     for (const bool isAccepted : {true, false}) {
-        QTimer::singleShot(0, [&] {
-            auto* shown = qobject_cast<CNewThemeDialog*>(QApplication::activeModalWidget());
-            ASSERT_TRUE(shown);
-            QTest::keyClicks(&FindControl<QLineEdit>(shown, "newEnglishName"), " Lagoon ");
-            QTest::keyClick(shown, isAccepted ? Qt::Key_Return : Qt::Key_Escape);
+        QTimer::singleShot(0, &window, [&] {
+            QTest::keyClicks(QApplication::focusWidget(), " Lagoon ");
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+            QTest::keyClick(QApplication::focusWidget(), isAccepted ? Qt::Key_Return : Qt::Key_Escape);
         });
-        const std::optional<NewTheme> asked = CNewThemeDialog::ask(bench, {}, nullptr);
+        const std::optional<ThemeWish> asked = CNewThemeDialog::ask(bench, {}, &window);
         ASSERT_EQ(asked.has_value(), isAccepted);
         if (asked) {
             EXPECT_EQ(asked->name, "Lagoon");
+            EXPECT_EQ(asked->generation, 1U);
             EXPECT_TRUE(store.create(asked->name, {asked->generation, asked->small}));
         }
     }
