@@ -106,26 +106,34 @@ void CFullListPage::chooseColour(int index) {
         return;
     _list.setCurrent(index);
     const KeyRow row = _table.row(index);
-    const std::optional<QColor> before = colourOf(QString::fromStdString(row.value));
+    const std::optional<QColor> before = colourOf(QString::fromStdString(row.value()));
     if (row.kind != KeyKind::colour || !before)
         return isFile(row.kind) ? replaceByDialog() : _editor->edit();
-    const ZColourDialog::Request request{*before, colourOf(QString::fromStdString(row.fallback)),
+    const ZColourDialog::Request request{*before, colourOf(QString::fromStdString(row.fallback())),
                                          _table.commonColours()};
     // The last colour tried is written even if the author stops within the interval.
     const QMetaObject::Connection late = connect(&_tryTimer, &QTimer::timeout, this, [this, key = row.key] {
         const KeyRow* now = _table.find(key);
-        if (now && !sameText(KeyKind::colour, now->value, colourText(_tried).toStdString()))
+        if (now && !sameText(KeyKind::colour, now->value(), colourText(_tried).toStdString()))
             tryColour(key, _tried);
     });
-    const std::optional<QColor> chosen = ZColourDialog::choose(
-        request, Text, this, [this, key = row.key](const QColor& colour) { tryColour(key, colour); });
+    bool wasTried = false;
+    const std::optional<QColor> chosen =
+        ZColourDialog::choose(request, Text, this, [this, &wasTried, key = row.key](const QColor& colour) {
+            wasTried = true;
+            tryColour(key, colour);
+        });
     disconnect(late);
     _tryTimer.stop();
     if (!theme() || !_table.find(row.key))
         return;
-    const std::string value = chosen ? colourText(*chosen).toStdString() : row.value;
-    const bool isStored = sameText(KeyKind::colour, _table.find(row.key)->value, value);
-    const int code = isStored ? returnCode::success : changeKey(*theme(), row, value);
+    const KeyRow& now = *_table.find(row.key);
+    const std::string value = chosen ? colourText(*chosen).toStdString() : std::string();
+    int code = returnCode::success;
+    if (!chosen && wasTried)
+        code = restoreKey(*theme(), row);
+    else if (chosen && !sameText(KeyKind::colour, now.value(), value))
+        code = changeKey(*theme(), row, value);
     changed(row.key);
     if (code != returnCode::success)
         tell(reasonWords(code));
@@ -190,7 +198,8 @@ void CFullListPage::copyValue() const {
     if (!hasCurrent())
         return;
     const KeyRow& row = _table.row(current());
-    QApplication::clipboard()->setText(QString::fromStdString(isFile(row.kind) ? row.file : row.value));
+    QApplication::clipboard()->setText(
+        QString::fromStdString(isFile(row.kind) ? row.places.front().file : row.value()));
 }
 
 void CFullListPage::pasteValue() {

@@ -174,17 +174,25 @@ int changeKey(ThemeResource& theme, const KeyRow& row, const std::string& value)
     return setAll(theme, row, [&](const KeyPlace& place) { return setPlace(theme, place, value); });
 }
 
+int restoreKey(ThemeResource& theme, const KeyRow& row) {
+    for (const KeyPlace& place : row.places) {
+        if (const int code = setPlace(theme, place, place.value); !isSetOrAbsent(code))
+            return code;
+    }
+    return applyAll(theme, row) ? returnCode::success : returnCode::copyFailed;
+}
+
 bool canReset(const KeyRow& row, bool changed) {
     if (!changed)
         return false;
-    return !isFile(row.kind) || !row.fallback.empty() || (row.optional && !row.value.empty());
+    return !isFile(row.kind) || !row.fallback().empty() || (row.optional && !row.value().empty());
 }
 
 int resetKey(ThemeResource& theme, const KeyRow& row) {
     if (!isFile(row.kind))
-        return changeText(theme, row, row.fallback);
+        return changeText(theme, row, row.fallback());
     return setAll(theme, row, [&](const KeyPlace& place) {
-        if (row.fallback.empty() && row.optional)
+        if (place.fallback.empty() && row.optional)
             return theme.clearFile(place.path());
         ResNode* leaf = theme.findNthNode(place.path(), place.number);
         return leaf ? theme.restoreDefault(leaf) : returnCode::notFound;

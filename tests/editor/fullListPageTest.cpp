@@ -243,6 +243,29 @@ TEST_F(FullListPageTest, SwatchOpensTheDialogAndTheThemeFollows) {
     }
 }
 
+TEST_F(FullListPageTest, CancelLeavesCopiesAsTheyDiffered) {
+    open();
+    const KeyPath block{"mms", "commonSetting", "text"};
+    ASSERT_EQ(bench.theme()->setValue(block, "ovui_primary", "#80ff0102"), 0);
+    bench.notifications().SendNotify(nullptr, notify::Notify_ReloadDataMsg);
+    ASSERT_TRUE(page->showLeaf("contacts/commonSetting/text/ovui_primary"));
+    std::string tried;
+    QTimer::singleShot(0, page.get(), [&] {
+        auto* dialog = page->window()->findChild<ZBaseDialog*>();
+        ASSERT_NE(dialog, nullptr);
+        auto& hex = FindControl<QLineEdit>(dialog, "colourHex");
+        hex.selectAll();
+        QTest::keyClicks(&hex, "ff8800");
+        tried = value(block, "ovui_primary");
+        dialog->reject();
+    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return control("detailEdit").isVisible(); }));
+    QTest::mouseClick(&control("detailEdit"), Qt::LeftButton);
+    EXPECT_EQ(tried, "#ff8800");
+    EXPECT_EQ(value(block, "ovui_primary"), "#80ff0102");
+    EXPECT_EQ(value({"contacts", "commonSetting", "text"}, "ovui_primary"), "#242424");
+}
+
 TEST_F(FullListPageTest, ReloadKeepsThePlaceAndTakesWhatIsThere) {
     open();
     page->showModule("mms");
@@ -254,6 +277,8 @@ TEST_F(FullListPageTest, ReloadKeepsThePlaceAndTakesWhatIsThere) {
     EXPECT_EQ(control<QLineEdit>("editHex").text(), "998877");
     EXPECT_FALSE(page->showLeaf("mms/text/nothing"));
     EXPECT_FALSE(page->showLeaf("title"));
+    EXPECT_TRUE(page->showLeaf("launcher/image/ic_edit_share.9.png#2"));
+    EXPECT_TRUE(page->showLeaf("launcher/image/ic_edit_share.9.png")) << "the one that takes part";
 
     openNew("Small", {2, true});
     bench.notifications().SendNotify(nullptr, notify::Notify_ReloadDataMsg);
