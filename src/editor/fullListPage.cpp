@@ -91,6 +91,7 @@ CFullListPage::CFullListPage(Workbench& bench, QWidget* parent)
     , _stack(control<QStackedWidget>("keyStack"))
     , _list(control<ZListView>("keyList"))
     , _empty(control<ZEmptyState>("keyEmpty"))
+    , _hint(control<ZElidedLabel>("keyHint"))
     , _range(control<QLabel>("keyRange"))
     , _name(control<ZElidedLabel>("detailName"))
     , _replace(control<QPushButton>("detailReplace"))
@@ -177,6 +178,7 @@ void CFullListPage::connectList() {
 void CFullListPage::connectEditor() {
     _editor->hide();
     connect(_editor, &KeyEditor::valueEntered, this, &CFullListPage::enterValue);
+    connect(_editor, &KeyEditor::reasonChanged, this, &CFullListPage::showHint);
     connect(_editor, &KeyEditor::resetClicked, this, &CFullListPage::resetCurrent);
     connect(_editor, &KeyEditor::finished, this, [this] { _list.setFocus(Qt::ShortcutFocusReason); });
     connect(_editor, &KeyEditor::moveAsked, this, &CFullListPage::moveAndEdit);

@@ -59,6 +59,8 @@ private:
     void showCounts();
     void showEmpty();
     void showRange();
+    /// The line below the list: a reason that its row has no room for, else a hint.
+    void showHint();
     void placeHead();
     void placeEditor();
     void showCurrent();
@@ -99,6 +101,7 @@ private:
     QStackedWidget& _stack;
     ZListView& _list;
     ZEmptyState& _empty;
+    ZElidedLabel& _hint;
     QLabel& _range;
     ZElidedLabel& _name;
     QPushButton& _replace;

@@ -73,11 +73,12 @@ void CFullListPage::enterValue(const QString& value, bool isWhole) {
     if (!theme() || !hasCurrent())
         return;
     const KeyRow row = _table.row(current());
-    const int code = isWhole ? changeKey(*theme(), row, value.toStdString()) : returnCode::patternMismatch;
-    if (code == returnCode::success)
-        changed(row.key);
-    else
+    if (!isWhole)
+        return _editor->showReason(Text("kList_colour_form"));
+    if (const int code = changeKey(*theme(), row, value.toStdString()))
         _editor->showReason(reasonWords(code));
+    else
+        changed(row.key);
 }
 
 void CFullListPage::changed(const std::string& key) {

@@ -4,6 +4,7 @@
 #include "kit/colourText.h"
 #include "kit/emptyState.h"
 #include "kit/icons.h"
+#include "kit/kitStyle.h"
 #include "kit/labels.h"
 #include "kit/listView.h"
 #include "kit/localisation.h"
@@ -66,6 +67,12 @@ void CFullListPage::showRange() {
     _range.setText(_table.count() == 0 ? QString()
                                        : TextWith("kList_range", first) + TextWith("kList_range_to", last) +
                                              TextWith("kList_range_of", _table.count()));
+}
+
+void CFullListPage::showHint() {
+    const QString reason = _editor->cutReason();
+    _hint.setText(reason.isEmpty() ? Text("kList_hint") : reason);
+    setStyleProperty(&_hint, "state", reason.isEmpty() ? "" : "error");
 }
 
 void CFullListPage::placeHead() {

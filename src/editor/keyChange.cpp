@@ -9,6 +9,7 @@
 #include "packaging/videoLimits.h"
 #include "store/themeResource.h"
 #include "support/files.h"
+#include "support/text.h"
 
 #include <QTemporaryDir>
 
@@ -23,6 +24,7 @@ namespace {
 constexpr std::uint64_t bytesPerKilobyte = 1024;
 const KeyPath lockVideo{"unlock", "video", "image_set"};
 constexpr const char* lockStyle = "unlock/config/style";
+constexpr const char* lockFolder = "unlock/config/dynamicPath";
 
 bool isSetOrAbsent(int code) {
     return code == returnCode::success || code == returnCode::notFound;
@@ -105,9 +107,19 @@ bool applyAll(ThemeResource& theme, const KeyRow& row) {
     return written;
 }
 
+/// Whether a text can be written, and leads nowhere outside the theme.
+bool isSafe(const KeyRow& row, const std::string& value) {
+    if (row.key == lockFolder)
+        return isXmlText(value) && !value.empty() && value.find_first_of("/\\") == std::string::npos &&
+               !value.starts_with('.');
+    return isXmlText(value);
+}
+
 int changeText(ThemeResource& theme, const KeyRow& row, const std::string& value) {
     if (row.key == lockStyle)
         return theme.setLockScreenType(value);
+    if (!isSafe(row, value))
+        return returnCode::notAllowed;
     if (const int code = refusalOf(theme, row, value))
         return code;
     const OldValues before(theme, row);

@@ -104,10 +104,15 @@ void KeyEditor::showReason(const QString& reason) {
     for (QWidget* field : {static_cast<QWidget*>(_hex), static_cast<QWidget*>(_text)})
         setStyleProperty(field, "state", state);
     update();
+    emit reasonChanged();
 }
 
 bool KeyEditor::hasReason() const {
     return !_reason->text().isEmpty();
+}
+
+QString KeyEditor::cutReason() const {
+    return _reason->sizeHint().width() > _reason->width() ? _reason->text() : QString();
 }
 
 void KeyEditor::edit() {

@@ -129,7 +129,7 @@ TEST_F(FullListPageTest, ColourIsEditedInItsRow) {
     EXPECT_TRUE(control("editHex").hasFocus());
     QTest::keyClicks(&control("editHex"), "#12ab");
     QTest::keyClick(&control("editHex"), Qt::Key_Return);
-    EXPECT_EQ(text("editReason"), "The value has the wrong form. Correct it");
+    EXPECT_EQ(text("editReason"), "Enter six or eight hex digits");
     EXPECT_EQ(value(messages, "message_pop_send_bg_color"), "#242424");
     EXPECT_EQ(listener.checks, 0);
 

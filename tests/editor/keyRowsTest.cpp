@@ -240,6 +240,14 @@ TEST_F(KeyChangeTest, LockStyleChangesTheKindOfLock) {
     EXPECT_EQ(theme->lockScreenType(), "amazing");
 }
 
+TEST_F(KeyChangeTest, TextsThatLeadOutsideOrBreakTheFileAreRefused) {
+    for (const char* value : {"", "..", "../other", "a/b", "a\\b", ".hidden", "a\x01"})
+        EXPECT_EQ(changeKey(*theme, row("unlock/config/dynamicPath"), value), returnCode::notAllowed) << value;
+    EXPECT_EQ(changeKey(*theme, row("unlock/config/dynamicPath"), "other"), 0);
+    EXPECT_EQ(changeKey(*theme, row("unlock/config/title"), "a\x01"), returnCode::notAllowed);
+    EXPECT_EQ(changeKey(*theme, row("unlock/config/title"), "Night & day"), 0);
+}
+
 TEST(FileChanges, TellsAtOnceWhatItKnows) {
     const test::TemporaryFolder folder;
     folder.write("one", "abc");
