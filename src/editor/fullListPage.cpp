@@ -112,7 +112,7 @@ CFullListPage::CFullListPage(Workbench& bench, QWidget* parent)
     connectBar();
     connectList();
     connectEditor();
-    reload();
+    CFullListPage::reload();
 }
 
 CFullListPage::~CFullListPage() {

@@ -114,6 +114,7 @@ private:
 
     std::string _theme;   ///< The name of the theme that is shown.
     std::string _current; ///< The key of the current row.
+    std::string _edited;  ///< That of the row which the fields show, and which may just have been left.
     QTimer _detailTimer;  ///< Details follow the row when the keys are let go.
     QTimer _tryTimer;     ///< Colours that are tried are written at most thirty times a second.
     QColor _tried;

@@ -18,6 +18,8 @@
 #include <QMimeData>
 #include <QScrollBar>
 
+#include <bit>
+
 /// What the author changes in the list.
 namespace zdt {
 
@@ -70,9 +72,10 @@ void CFullListPage::moveAndEdit(int by) {
 }
 
 void CFullListPage::enterValue(const QString& value, bool isWhole) {
-    if (!theme() || !hasCurrent())
+    const KeyRow* edited = _table.find(_edited);
+    if (!theme() || !edited)
         return;
-    const KeyRow row = _table.row(current());
+    const KeyRow row = *edited;
     if (!isWhole)
         return _editor->showReason(Text("kList_colour_form"));
     if (const int code = changeKey(*theme(), row, value.toStdString()))
@@ -244,7 +247,7 @@ void CFullListPage::Notify(const Notification& message) {
     ZPage::Notify(message);
     if (message.name != notify::Notify_Drag_File || message.wParam != 0 || message.lParam == 0 || !isVisible())
         return;
-    const auto& files = *reinterpret_cast<const QStringList*>(message.lParam);
+    const auto& files = *std::bit_cast<const QStringList*>(message.lParam);
     if (files.size() == 1 && hasCurrent())
         replaceBy(current(), QString(files.first()));
 }

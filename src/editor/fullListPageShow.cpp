@@ -123,6 +123,7 @@ void CFullListPage::showCurrent() {
     if (hasCurrent()) {
         const KeyRow& row = _table.row(current());
         _current = row.key;
+        _edited = isFile(row.kind) ? std::string() : row.key;
         const std::optional<QColor> colour = colourOfRow(row);
         _editor->setResettable(canReset(row, _table.isChanged(current())));
         if (colour)

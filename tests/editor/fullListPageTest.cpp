@@ -162,8 +162,11 @@ TEST_F(FullListPageTest, LeavingStoresAndArrowsGoOn) {
     EXPECT_TRUE(control("editHex").hasFocus());
     QTest::keyClick(&control("editHex"), Qt::Key_Up);
     type("editHex", "040506");
-    control("keySearch").setFocus();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return value(messages, "message_pop_send_bg_color") == "#040506"; }));
+    QTest::mouseClick(list().cellAt(index + 1), Qt::LeftButton, {}, QPoint(100, 16));
+    EXPECT_EQ(value(messages, "message_pop_send_bg_color"), "#040506");
+    EXPECT_EQ(list().current(), index + 1);
+    EXPECT_NE(control<QLineEdit>("editHex").text(), "040506");
+    QTest::keyClick(&list(), Qt::Key_Up);
 
     list().setFocus();
     QTest::keyClick(&list(), Qt::Key_C, Qt::ControlModifier);
