@@ -237,9 +237,8 @@ bool CFullListPage::dropOnList(QEvent* event) {
         return true;
     drop->acceptProposedAction();
     // The program that the file comes from waits until the drop is done; a box must not keep it.
-    QMetaObject::invokeMethod(
-        this, [this, key = _table.row(index).key, file = files.first()] { replaceBy(_table.indexOf(key), file); },
-        Qt::QueuedConnection);
+    QTimer::singleShot(
+        0, this, [this, key = _table.row(index).key, file = files.first()] { replaceBy(_table.indexOf(key), file); });
     return true;
 }
 
@@ -267,14 +266,11 @@ bool CFullListPage::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::Drop:
             return dropOnList(event);
         case QEvent::Resize:
-            QMetaObject::invokeMethod(
-                this,
-                [this] {
-                    placeHead();
-                    placeEditor();
-                    showRange();
-                },
-                Qt::QueuedConnection);
+            QTimer::singleShot(0, this, [this] {
+                placeHead();
+                placeEditor();
+                showRange();
+            });
             break;
         default:
             break;
