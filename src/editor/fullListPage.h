@@ -59,6 +59,8 @@ private:
     void showCounts();
     void showEmpty();
     void showRange();
+    /// The line below the list: a reason that its row has no room for, else a hint.
+    void showHint();
     void placeHead();
     void placeEditor();
     void showCurrent();
@@ -99,6 +101,7 @@ private:
     QStackedWidget& _stack;
     ZListView& _list;
     ZEmptyState& _empty;
+    ZElidedLabel& _hint;
     QLabel& _range;
     ZElidedLabel& _name;
     QPushButton& _replace;
@@ -111,6 +114,7 @@ private:
 
     std::string _theme;   ///< The name of the theme that is shown.
     std::string _current; ///< The key of the current row.
+    std::string _edited;  ///< That of the row which the fields show, and which may just have been left.
     QTimer _detailTimer;  ///< Details follow the row when the keys are let go.
     QTimer _tryTimer;     ///< Colours that are tried are written at most thirty times a second.
     QColor _tried;

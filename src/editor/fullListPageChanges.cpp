@@ -18,6 +18,8 @@
 #include <QMimeData>
 #include <QScrollBar>
 
+#include <bit>
+
 /// What the author changes in the list.
 namespace zdt {
 
@@ -70,14 +72,16 @@ void CFullListPage::moveAndEdit(int by) {
 }
 
 void CFullListPage::enterValue(const QString& value, bool isWhole) {
-    if (!theme() || !hasCurrent())
+    const KeyRow* edited = _table.find(_edited);
+    if (!theme() || !edited)
         return;
-    const KeyRow row = _table.row(current());
-    const int code = isWhole ? changeKey(*theme(), row, value.toStdString()) : returnCode::patternMismatch;
-    if (code == returnCode::success)
-        changed(row.key);
-    else
+    const KeyRow row = *edited;
+    if (!isWhole)
+        return _editor->showReason(Text("kList_colour_form"));
+    if (const int code = changeKey(*theme(), row, value.toStdString()))
         _editor->showReason(reasonWords(code));
+    else
+        changed(row.key);
 }
 
 void CFullListPage::changed(const std::string& key) {
@@ -106,26 +110,34 @@ void CFullListPage::chooseColour(int index) {
         return;
     _list.setCurrent(index);
     const KeyRow row = _table.row(index);
-    const std::optional<QColor> before = colourOf(QString::fromStdString(row.value));
+    const std::optional<QColor> before = colourOf(QString::fromStdString(row.value()));
     if (row.kind != KeyKind::colour || !before)
         return isFile(row.kind) ? replaceByDialog() : _editor->edit();
-    const ZColourDialog::Request request{*before, colourOf(QString::fromStdString(row.fallback)),
+    const ZColourDialog::Request request{*before, colourOf(QString::fromStdString(row.fallback())),
                                          _table.commonColours()};
     // The last colour tried is written even if the author stops within the interval.
     const QMetaObject::Connection late = connect(&_tryTimer, &QTimer::timeout, this, [this, key = row.key] {
         const KeyRow* now = _table.find(key);
-        if (now && !sameText(KeyKind::colour, now->value, colourText(_tried).toStdString()))
+        if (now && !sameText(KeyKind::colour, now->value(), colourText(_tried).toStdString()))
             tryColour(key, _tried);
     });
-    const std::optional<QColor> chosen = ZColourDialog::choose(
-        request, Text, this, [this, key = row.key](const QColor& colour) { tryColour(key, colour); });
+    bool wasTried = false;
+    const std::optional<QColor> chosen =
+        ZColourDialog::choose(request, Text, this, [this, &wasTried, key = row.key](const QColor& colour) {
+            wasTried = true;
+            tryColour(key, colour);
+        });
     disconnect(late);
     _tryTimer.stop();
     if (!theme() || !_table.find(row.key))
         return;
-    const std::string value = chosen ? colourText(*chosen).toStdString() : row.value;
-    const bool isStored = sameText(KeyKind::colour, _table.find(row.key)->value, value);
-    const int code = isStored ? returnCode::success : changeKey(*theme(), row, value);
+    const KeyRow& now = *_table.find(row.key);
+    const std::string value = chosen ? colourText(*chosen).toStdString() : std::string();
+    int code = returnCode::success;
+    if (!chosen && wasTried)
+        code = restoreKey(*theme(), row);
+    else if (chosen && !sameText(KeyKind::colour, now.value(), value))
+        code = changeKey(*theme(), row, value);
     changed(row.key);
     if (code != returnCode::success)
         tell(reasonWords(code));
@@ -190,7 +202,8 @@ void CFullListPage::copyValue() const {
     if (!hasCurrent())
         return;
     const KeyRow& row = _table.row(current());
-    QApplication::clipboard()->setText(QString::fromStdString(isFile(row.kind) ? row.file : row.value));
+    QApplication::clipboard()->setText(
+        QString::fromStdString(isFile(row.kind) ? row.places.front().file : row.value()));
 }
 
 void CFullListPage::pasteValue() {
@@ -224,9 +237,8 @@ bool CFullListPage::dropOnList(QEvent* event) {
         return true;
     drop->acceptProposedAction();
     // The program that the file comes from waits until the drop is done; a box must not keep it.
-    QMetaObject::invokeMethod(
-        this, [this, key = _table.row(index).key, file = files.first()] { replaceBy(_table.indexOf(key), file); },
-        Qt::QueuedConnection);
+    QTimer::singleShot(
+        0, this, [this, key = _table.row(index).key, file = files.first()] { replaceBy(_table.indexOf(key), file); });
     return true;
 }
 
@@ -234,7 +246,7 @@ void CFullListPage::Notify(const Notification& message) {
     ZPage::Notify(message);
     if (message.name != notify::Notify_Drag_File || message.wParam != 0 || message.lParam == 0 || !isVisible())
         return;
-    const auto& files = *reinterpret_cast<const QStringList*>(message.lParam);
+    const auto& files = *std::bit_cast<const QStringList*>(message.lParam);
     if (files.size() == 1 && hasCurrent())
         replaceBy(current(), QString(files.first()));
 }
@@ -254,14 +266,11 @@ bool CFullListPage::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::Drop:
             return dropOnList(event);
         case QEvent::Resize:
-            QMetaObject::invokeMethod(
-                this,
-                [this] {
-                    placeHead();
-                    placeEditor();
-                    showRange();
-                },
-                Qt::QueuedConnection);
+            QTimer::singleShot(0, this, [this] {
+                placeHead();
+                placeEditor();
+                showRange();
+            });
             break;
         default:
             break;

@@ -22,10 +22,13 @@ constexpr int badgeWidth = 29;
 constexpr int badgeHeight = 20;
 constexpr int badgeGap = 4;
 constexpr int generationsWidth = 128;
-constexpr int narrowGenerations = 3 * badgeWidth + 2 * badgeGap + 12;
+constexpr int badgesWidth = 3 * badgeWidth + 2 * badgeGap;
 constexpr int leastKey = 205;
 constexpr int leastValue = 184;
 constexpr int leastApplies = 120;
+constexpr int ordinaryApplies = 220;
+constexpr int mostKeySpare = 260;
+constexpr int mostValueSpare = 120;
 constexpr int detailEnd = 94; ///< From the value's left to where an opacity ends.
 constexpr int dotRadius = 3;
 
@@ -55,16 +58,15 @@ void drawLine(QPainter& painter, const QRect& place, const QFont& font, const QC
 
 KeyColumns keyColumns(int width) {
     KeyColumns columns;
-    const int flexible = width - columns.key - leastKey - leastValue - 2 * columnGap;
-    const bool isNarrow = flexible < generationsWidth + leastApplies;
-    const int generations = isNarrow ? narrowGenerations : generationsWidth;
-    // Of what is left over, a third goes to long keys, but never so much that the last column starves.
-    const int spare = flexible - generations - (isNarrow ? 0 : 220);
-    columns.keyWidth = leastKey + (isNarrow ? std::max(0, spare) : std::clamp(spare / 3, 0, 260));
+    const int flexible = width - columns.key - leastValue - 2 * columnGap;
+    const bool isNarrow = flexible < leastKey + generationsWidth + leastApplies;
+    // Of what is left over, a third goes to long keys and less to values, but the last column doesn't starve.
+    const int spare = std::max(0, flexible - leastKey - generationsWidth - ordinaryApplies);
+    columns.keyWidth = isNarrow ? std::max(0, flexible - badgesWidth) : leastKey + std::min(spare / 3, mostKeySpare);
     columns.value = columns.key + columns.keyWidth + columnGap;
-    columns.valueWidth = leastValue - columnGap + (isNarrow ? 0 : std::clamp(spare / 6, 0, 120));
-    columns.generations = columns.value + columns.valueWidth + columnGap - 4;
-    columns.applies = columns.generations + generations;
+    columns.valueWidth = leastValue - columnGap + (isNarrow ? 0 : std::min(spare / 6, mostValueSpare));
+    columns.generations = columns.value + columns.valueWidth + columnGap / 2;
+    columns.applies = columns.generations + (isNarrow ? badgesWidth : generationsWidth);
     columns.appliesWidth = isNarrow ? 0 : width - columns.applies - 2 * columnGap;
     return columns;
 }
@@ -137,7 +139,7 @@ void KeyCell::paintSign(QPainter& painter) const {
     }
     if (_content.thumbnail.isNull()) {
         const QRectF small = place.adjusted(2, 2, -2, -2);
-        paintIcon(painter, small, _content.isPicture ? Icon::Image : Icon::TextFields, token::iconEmpty);
+        paintIcon(painter, small, _content.icon, token::iconEmpty);
         return;
     }
     paintChecker(painter, place);

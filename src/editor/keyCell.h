@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kit/cellSource.h"
+#include "kit/icons.h"
 #include "model/typeMask.h"
 
 #include <QColor>
@@ -39,7 +40,7 @@ struct KeyCellContent {
     bool changed = false;
     std::optional<QColor> colour;
     QImage thumbnail;
-    bool isPicture = false;
+    Icon icon = Icon::TextFields; ///< Where there is neither.
     QString value;
     QString detail;       ///< Behind the value, in grey: an opacity.
     bool isMuted = false; ///< Whether the value only tells that there is none.

@@ -9,6 +9,7 @@
 #include "packaging/videoLimits.h"
 #include "store/themeResource.h"
 #include "support/files.h"
+#include "support/text.h"
 
 #include <QTemporaryDir>
 
@@ -23,6 +24,7 @@ namespace {
 constexpr std::uint64_t bytesPerKilobyte = 1024;
 const KeyPath lockVideo{"unlock", "video", "image_set"};
 constexpr const char* lockStyle = "unlock/config/style";
+constexpr const char* lockFolder = "unlock/config/dynamicPath";
 
 bool isSetOrAbsent(int code) {
     return code == returnCode::success || code == returnCode::notFound;
@@ -105,9 +107,19 @@ bool applyAll(ThemeResource& theme, const KeyRow& row) {
     return written;
 }
 
+/// Whether a text can be written, and leads nowhere outside the theme.
+bool isSafe(const KeyRow& row, const std::string& value) {
+    if (row.key == lockFolder)
+        return isXmlText(value) && !value.empty() && value.find_first_of("/\\") == std::string::npos &&
+               !value.starts_with('.');
+    return isXmlText(value);
+}
+
 int changeText(ThemeResource& theme, const KeyRow& row, const std::string& value) {
     if (row.key == lockStyle)
         return theme.setLockScreenType(value);
+    if (!isSafe(row, value))
+        return returnCode::notAllowed;
     if (const int code = refusalOf(theme, row, value))
         return code;
     const OldValues before(theme, row);
@@ -174,17 +186,25 @@ int changeKey(ThemeResource& theme, const KeyRow& row, const std::string& value)
     return setAll(theme, row, [&](const KeyPlace& place) { return setPlace(theme, place, value); });
 }
 
+int restoreKey(ThemeResource& theme, const KeyRow& row) {
+    for (const KeyPlace& place : row.places) {
+        if (const int code = setPlace(theme, place, place.value); !isSetOrAbsent(code))
+            return code;
+    }
+    return applyAll(theme, row) ? returnCode::success : returnCode::copyFailed;
+}
+
 bool canReset(const KeyRow& row, bool changed) {
     if (!changed)
         return false;
-    return !isFile(row.kind) || !row.fallback.empty() || (row.optional && !row.value.empty());
+    return !isFile(row.kind) || !row.fallback().empty() || (row.optional && !row.value().empty());
 }
 
 int resetKey(ThemeResource& theme, const KeyRow& row) {
     if (!isFile(row.kind))
-        return changeText(theme, row, row.fallback);
+        return changeText(theme, row, row.fallback());
     return setAll(theme, row, [&](const KeyPlace& place) {
-        if (row.fallback.empty() && row.optional)
+        if (place.fallback.empty() && row.optional)
             return theme.clearFile(place.path());
         ResNode* leaf = theme.findNthNode(place.path(), place.number);
         return leaf ? theme.restoreDefault(leaf) : returnCode::notFound;

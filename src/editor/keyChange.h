@@ -10,6 +10,10 @@ namespace zdt {
 /// is the result. A file is copied into the theme.
 [[nodiscard]] int changeKey(ThemeResource& theme, const KeyRow& row, const std::string& value);
 
+/// Gives each place of a row of texts or colours the value that the row names for it, and writes their blocks: the way
+/// back from what was tried.
+[[nodiscard]] int restoreKey(ThemeResource& theme, const KeyRow& row);
+
 /// Whether `resetKey` has something to put back, or to take away.
 /// @param changed whether the row differs from its default
 [[nodiscard]] bool canReset(const KeyRow& row, bool changed);

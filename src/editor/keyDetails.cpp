@@ -17,7 +17,7 @@ namespace zdt {
 namespace {
 
 constexpr int previewHeight = 200;
-constexpr int labelWidth = 84;
+constexpr int labelWidth = 88;
 constexpr int factPadding = 7;
 constexpr int smallSwatch = 16;
 constexpr int opaque = 255;
@@ -149,9 +149,9 @@ std::vector<KeyFact> factsOf(const KeyRow& row, const KeyWords& words,
             facts.push_back({Text(label), value, {}, isMono});
     };
     add("kList_fact_meaning", words.meaning);
-    facts.push_back(valueFact("kList_fact_value", row, row.value));
-    facts.push_back(valueFact("kList_fact_default", row, row.fallback));
-    add("kList_fact_file", QString::fromStdString(row.file), true);
+    facts.push_back(valueFact("kList_fact_value", row, row.value()));
+    facts.push_back(valueFact("kList_fact_default", row, row.fallback()));
+    add("kList_fact_file", QString::fromStdString(row.places.front().file), true);
     if (isFile(row.kind)) {
         add("kList_fact_kind", kindWords(row));
         add("kList_fact_size", sizeWords(row));

@@ -104,10 +104,15 @@ void KeyEditor::showReason(const QString& reason) {
     for (QWidget* field : {static_cast<QWidget*>(_hex), static_cast<QWidget*>(_text)})
         setStyleProperty(field, "state", state);
     update();
+    emit reasonChanged();
 }
 
 bool KeyEditor::hasReason() const {
     return !_reason->text().isEmpty();
+}
+
+QString KeyEditor::cutReason() const {
+    return _reason->sizeHint().width() > _reason->width() ? _reason->text() : QString();
 }
 
 void KeyEditor::edit() {
@@ -174,17 +179,12 @@ bool KeyEditor::pressed(int key) {
 bool KeyEditor::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress && pressed(static_cast<QKeyEvent*>(event)->key()))
         return true;
-    // A menu of the field and another window take the focus for a while; the author comes back to what was typed.
+    // A menu of the field and another window take the focus for a while; the author comes back to what was typed. The
+    // next widget has the focus already, and so the click that took it comes after this.
     if (event->type() == QEvent::FocusOut) {
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
-            QMetaObject::invokeMethod(
-                this,
-                [this] {
-                    if (isVisible() && !isEditing())
-                        store();
-                },
-                Qt::QueuedConnection);
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason && !isEditing())
+            store();
     }
     return QWidget::eventFilter(watched, event);
 }

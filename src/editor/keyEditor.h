@@ -35,6 +35,8 @@ public:
     /// Why the value wasn't stored. The fields stay as they are, in their error state.
     void showReason(const QString& reason);
     [[nodiscard]] bool hasReason() const;
+    /// The reason, if the row is too narrow for it.
+    [[nodiscard]] QString cutReason() const;
 
     /// Puts the focus into the first field, with all of it selected.
     void edit();
@@ -48,6 +50,8 @@ public:
     void relabel();
 
 signals:
+    /// Another reason, or none any more.
+    void reasonChanged();
     /// A new value, in the theme's form, or one that no field could hold: then `value` is empty and `isWhole` false.
     /// Whoever hears it either shows the new value or a reason.
     void valueEntered(const QString& value, bool isWhole);

@@ -10,7 +10,7 @@ bool hasAll(const KeyRow& row, const KeyWords& words, const QStringList& searche
     return std::all_of(searched.begin(), searched.end(), [&](const QString& word) {
         // A path tells nothing that the author knows.
         return words.searched.contains(word) ||
-               (!isFile(row.kind) && QString::fromStdString(row.value).contains(word, Qt::CaseInsensitive));
+               (!isFile(row.kind) && QString::fromStdString(row.value()).contains(word, Qt::CaseInsensitive));
     });
 }
 

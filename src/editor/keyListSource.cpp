@@ -21,7 +21,7 @@ PictureSize sizeOf(const std::string& path) {
 }
 
 std::optional<QColor> colourOfRow(const KeyRow& row) {
-    return row.kind == KeyKind::colour ? colourOf(QString::fromStdString(row.value)) : std::nullopt;
+    return row.kind == KeyKind::colour ? colourOf(QString::fromStdString(row.value())) : std::nullopt;
 }
 
 } // namespace
@@ -61,8 +61,18 @@ void KeyListSource::load(const ThemeResource* theme) {
 
 void KeyListSource::findChange(std::size_t at) {
     const KeyRow& row = _rows[at];
-    _changed[at] = isFile(row.kind) ? _changes.differs(row.value, row.fallback)
-                                    : std::optional(!sameText(row.kind, row.value, row.fallback));
+    _changed[at] = false;
+    for (const KeyPlace& place : row.places) {
+        const std::optional<bool> differs = isFile(row.kind)
+                                                ? _changes.differs(place.value, place.fallback)
+                                                : std::optional(!sameText(row.kind, place.value, place.fallback));
+        if (differs.value_or(false)) {
+            _changed[at] = true;
+            return;
+        }
+        if (!differs)
+            _changed[at].reset();
+    }
 }
 
 void KeyListSource::findChanges() {
@@ -100,11 +110,16 @@ std::optional<int> KeyListSource::changedCount() const {
 }
 
 const KeyRow* KeyListSource::find(const std::string& key) const {
-    const auto found = std::find_if(_rows.begin(), _rows.end(), [&](const KeyRow& row) {
-        return std::any_of(row.places.begin(), row.places.end(),
-                           [&](const KeyPlace& each) { return each.key() == key; });
-    });
-    return found == _rows.end() ? nullptr : &*found;
+    const auto rowWith = [&](const auto& isMeant) -> const KeyRow* {
+        const auto found = std::find_if(_rows.begin(), _rows.end(), [&](const KeyRow& row) {
+            return std::any_of(row.places.begin(), row.places.end(), isMeant);
+        });
+        return found == _rows.end() ? nullptr : &*found;
+    };
+    if (const KeyRow* exact = rowWith([&](const KeyPlace& place) { return place.key() == key; }))
+        return exact;
+    // Of namesakes that one is meant which takes part in the theme.
+    return rowWith([&](const KeyPlace& place) { return joinKeyPath(place.path()) == key; });
 }
 
 int KeyListSource::indexOf(const std::string& key) const {
@@ -158,14 +173,14 @@ QWidget* KeyListSource::makeCell(int /*kind*/, QWidget* parent) {
 }
 
 void KeyListSource::fillFile(KeyCellContent& content, const KeyRow& row, double ratio) {
-    content.isPicture = true;
-    content.value = fileFacts(row.value);
+    content.icon = row.kind == KeyKind::video ? Icon::Movie : row.kind == KeyKind::picture ? Icon::Image : Icon::Folder;
+    content.value = fileFacts(row.value());
     content.isMuted = content.value.isEmpty();
     if (content.isMuted)
         content.value = Text("kList_no_file");
-    if (row.kind != KeyKind::picture || row.value.empty())
+    if (row.kind != KeyKind::picture || row.value().empty())
         return;
-    content.thumbnail = _thumbnails.picture(row.value, QSize(swatchSide, swatchSide) * ratio);
+    content.thumbnail = _thumbnails.picture(row.value(), QSize(swatchSide, swatchSide) * ratio);
     content.thumbnail.setDevicePixelRatio(ratio);
 }
 
@@ -178,7 +193,7 @@ void KeyListSource::fillCell(QWidget* widget, int index) {
     content.generations = row.generations;
     content.appliesTo = words(index).appliesTo;
     content.colour = colourOfRow(row);
-    content.value = QString::fromStdString(row.value);
+    content.value = QString::fromStdString(row.value());
     if (content.colour) {
         content.value = "#" + shownDigits(*content.colour);
         if (content.colour->alpha() < opaque)
@@ -198,7 +213,7 @@ void KeyListSource::showState(QWidget* cell, int /*index*/, const CellState& sta
 QString KeyListSource::accessibleName(int index) const {
     const KeyRow& row = this->row(index);
     QStringList parts{words(index).name};
-    parts.append(isFile(row.kind) ? fileFacts(row.value) : QString::fromStdString(row.value));
+    parts.append(isFile(row.kind) ? fileFacts(row.value()) : QString::fromStdString(row.value()));
     parts.append(words(index).appliesTo);
     if (isChanged(index))
         parts.append(Text("kList_changed_tip"));

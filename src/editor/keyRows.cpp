@@ -46,16 +46,17 @@ std::vector<KeyRow> keyRowsOf(const ThemeResource& theme) {
 }
 
 void refreshRow(const ThemeResource& theme, KeyRow& row) {
-    row.value = theme.getValueNth(row.places.front().path(), row.places.front().number);
+    for (KeyPlace& place : row.places)
+        place.value = theme.getValueNth(place.path(), place.number);
 }
 
-std::vector<std::pair<std::string, std::string>> differingCopies(const ThemeResource& theme, const KeyRow& row) {
+std::vector<std::pair<std::string, std::string>> differingCopies(const KeyRow& row) {
     std::vector<std::pair<std::string, std::string>> copies;
     bool differ = false;
     for (const KeyPlace& place : row.places) {
-        const std::string value = theme.getValueNth(place.path(), place.number);
-        differ = differ || (isFile(row.kind) ? !sameFiles(value, row.value) : !sameText(row.kind, value, row.value));
-        copies.emplace_back(place.block.front(), value);
+        differ = differ || (isFile(row.kind) ? !sameFiles(place.value, row.value())
+                                             : !sameText(row.kind, place.value, row.value()));
+        copies.emplace_back(place.block.front(), place.value);
     }
     if (!differ)
         copies.clear();

@@ -21,11 +21,14 @@ enum class KeyKind { colour, text, picture, video, file };
     return kind == KeyKind::picture || kind == KeyKind::video || kind == KeyKind::file;
 }
 
-/// Where a leaf stands in a theme's tree.
+/// A leaf of a theme's tree: where it stands, and what it holds.
 struct KeyPlace {
     KeyPath block;
     std::string name;
-    int number = 1; ///< Among its namesakes, counted from 1.
+    int number = 1;       ///< Among its namesakes, counted from 1.
+    std::string value;    ///< A text, colour or the path of a file.
+    std::string fallback; ///< The template's value; for a file its path there, empty without one.
+    std::string file;     ///< That holds it, relative to the theme directory.
 
     /// The path that it shares with its namesakes.
     [[nodiscard]] KeyPath path() const;
@@ -43,9 +46,6 @@ struct KeyRow {
     KeyKind kind = KeyKind::text;   ///< Of all places.
     std::vector<KeyPlace> places;   ///< Those that take part in the theme; the first tells the value.
     TypeMask generations = 0;       ///< That have the key.
-    std::string value;              ///< A text, colour or the path of a file.
-    std::string fallback;           ///< The template's value; for a file its path there, empty without one.
-    std::string file;               ///< Relative to the theme directory.
     std::vector<std::string> items; ///< Settings of simple mode that set it: module, group and item, joined by "/".
     // Of files alone
     std::uint32_t kinds = 0;      ///< `fileKind` bits that are taken.
@@ -54,6 +54,8 @@ struct KeyRow {
     bool optional = false;        ///< Whether the theme may do without it.
 
     [[nodiscard]] const std::string& name() const { return places.front().name; }
+    [[nodiscard]] const std::string& value() const { return places.front().value; }
+    [[nodiscard]] const std::string& fallback() const { return places.front().fallback; }
     [[nodiscard]] bool hasCopies() const { return places.size() > 1; }
 };
 
@@ -61,13 +63,12 @@ struct KeyRow {
 /// description's texts are left out. Empty for a theme of no generation.
 [[nodiscard]] std::vector<KeyRow> keyRowsOf(const ThemeResource& theme);
 
-/// Reads a row's value anew.
+/// Reads the values of a row anew.
 void refreshRow(const ThemeResource& theme, KeyRow& row);
 
 /// The values of a row's places, each with its module, if they aren't all the same; files are told apart by what
 /// they hold.
-[[nodiscard]] std::vector<std::pair<std::string, std::string>> differingCopies(const ThemeResource& theme,
-                                                                               const KeyRow& row);
+[[nodiscard]] std::vector<std::pair<std::string, std::string>> differingCopies(const KeyRow& row);
 
 /// Whether two texts of a kind mean the same: colours are compared without their case and with an alpha of 255 left
 /// out or not.

@@ -16,6 +16,7 @@ namespace zdt {
 namespace {
 
 const KeyPath lockStyle{"unlock", "config", "style"};
+constexpr const char* propertiesFile = "ext.properties";
 
 /// The values of a new theme, which the tree of none has: the templates are written from it.
 ThemeNode& defaultsOf(TypeMask mask) {
@@ -27,6 +28,10 @@ KeyKind kindOf(const FileResNode& leaf) {
     if (leaf.name().ends_with(".mp4"))
         return KeyKind::video;
     return (leaf.allowedKinds() & (fileKind::png | fileKind::jpeg)) != 0 ? KeyKind::picture : KeyKind::file;
+}
+
+bool isShared(const KeyPlace& place) {
+    return place.block.size() > 1 && place.block[1] == sharedModule;
 }
 
 bool mayBeMissing(const ResNode& leaf) {
@@ -76,7 +81,7 @@ void KeyWalk::walk(ResNode& block, TypeMask generations, bool optional) {
 }
 
 KeyRow* KeyWalk::sharedRow(const KeyPlace& place) {
-    if (place.block.size() < 2 || place.block[1] != sharedModule)
+    if (!isShared(place))
         return nullptr;
     std::string below = place.key();
     below.erase(0, below.find('/'));
@@ -84,51 +89,47 @@ KeyRow* KeyWalk::sharedRow(const KeyPlace& place) {
     return isNew ? nullptr : &_rows[known->second];
 }
 
-void KeyWalk::add(ResNode& leaf, int number, TypeMask generations, bool optional) {
-    const auto* file = dynamic_cast<const FileResNode*>(&leaf);
-    const auto* text = dynamic_cast<const TextResNode*>(&leaf);
-    if (!file && !text)
-        return;
-    const KeyPlace place{leaf.parent()->keyPath(), leaf.name(), number};
-    if (KeyRow* row = sharedRow(place)) {
-        // The contacts' copy is the one that the others are made like.
-        const bool leads = place.block.front() == "contacts";
-        row->places.insert(leads ? row->places.begin() : row->places.end(), place);
-        if (leads) {
-            row->key = place.key();
-            row->value = leaf.value();
-            row->file = leaf.path() + leaf.name();
-        }
-        noteItems(leaf, *row);
-        return;
-    }
-    const bool isShared = place.block.size() > 1 && place.block[1] == sharedModule;
-    KeyRow row;
-    row.key = place.key();
-    row.module = isShared ? sharedModule : place.block.front();
-    row.places.push_back(place);
-    row.generations = generations & typeMask::allGenerations;
-    row.value = leaf.value();
-    noteItems(leaf, row);
-    if (file) {
-        describeFile(*file, row, optional || mayBeMissing(leaf));
+KeyPlace KeyWalk::placeOf(const ResNode& leaf, int number) const {
+    KeyPlace place{leaf.parent()->keyPath(), leaf.name(), number, leaf.value(), {}, {}};
+    if (dynamic_cast<const FileResNode*>(&leaf)) {
+        place.file = leaf.path() + leaf.name();
+        if (const std::string standing = leaf.defaultValue(); isPlainFile(standing))
+            place.fallback = standing;
     } else {
-        row.kind = dynamic_cast<const ColorTextResNode*>(text) ? KeyKind::colour : KeyKind::text;
-        row.file = leaf.parent()->path() + (leaf.parent()->name() == "ext.properties" ? "ext.properties" : "theme.xml");
-        row.fallback = defaultText(place);
+        const bool isProperty = leaf.parent()->name() == propertiesFile;
+        place.file = leaf.parent()->path() + (isProperty ? propertiesFile : "theme.xml");
+        place.fallback = defaultText(place);
     }
-    _rows.push_back(std::move(row));
+    return place;
 }
 
-void KeyWalk::describeFile(const FileResNode& leaf, KeyRow& row, bool optional) const {
+void KeyWalk::add(const ResNode& leaf, int number, TypeMask generations, bool optional) {
+    const auto* file = dynamic_cast<const FileResNode*>(&leaf);
+    if (!file && !dynamic_cast<const TextResNode*>(&leaf))
+        return;
+    const KeyPlace place = placeOf(leaf, number);
+    KeyRow* row = sharedRow(place);
+    if (!row) {
+        row = &_rows.emplace_back();
+        row->module = isShared(place) ? sharedModule : place.block.front();
+        if (file)
+            describeFile(*file, *row, optional || mayBeMissing(leaf));
+        else
+            row->kind = dynamic_cast<const ColorTextResNode*>(&leaf) ? KeyKind::colour : KeyKind::text;
+    }
+    // The contacts' copy is the one that the others are made like.
+    row->places.insert(place.block.front() == "contacts" ? row->places.begin() : row->places.end(), place);
+    row->key = row->places.front().key();
+    row->generations |= generations & typeMask::allGenerations;
+    noteItems(leaf, *row);
+}
+
+void KeyWalk::describeFile(const FileResNode& leaf, KeyRow& row, bool optional) {
     row.kind = kindOf(leaf);
-    row.file = leaf.path() + leaf.name();
     row.kinds = leaf.allowedKinds();
     row.maxBytes = leaf.maxBytes();
     row.sizes = leaf.sizeRanges();
     row.optional = optional;
-    if (const std::string standing = leaf.defaultValue(); isPlainFile(standing))
-        row.fallback = standing;
 }
 
 std::string KeyWalk::defaultText(const KeyPlace& place) const {

@@ -22,10 +22,11 @@ public:
 private:
     void findItems();
     void walk(ResNode& block, TypeMask generations, bool optional);
-    void add(ResNode& leaf, int number, TypeMask generations, bool optional);
+    void add(const ResNode& leaf, int number, TypeMask generations, bool optional);
+    [[nodiscard]] KeyPlace placeOf(const ResNode& leaf, int number) const;
     /// The row of the same shared key of another application; null if the leaf begins a row.
     KeyRow* sharedRow(const KeyPlace& place);
-    void describeFile(const FileResNode& leaf, KeyRow& row, bool optional) const;
+    static void describeFile(const FileResNode& leaf, KeyRow& row, bool optional);
     [[nodiscard]] std::string defaultText(const KeyPlace& place) const;
     void noteItems(const ResNode& leaf, KeyRow& row) const;
 

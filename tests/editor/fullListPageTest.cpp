@@ -129,7 +129,7 @@ TEST_F(FullListPageTest, ColourIsEditedInItsRow) {
     EXPECT_TRUE(control("editHex").hasFocus());
     QTest::keyClicks(&control("editHex"), "#12ab");
     QTest::keyClick(&control("editHex"), Qt::Key_Return);
-    EXPECT_EQ(text("editReason"), "The value has the wrong form. Correct it");
+    EXPECT_EQ(text("editReason"), "Enter six or eight hex digits");
     EXPECT_EQ(value(messages, "message_pop_send_bg_color"), "#242424");
     EXPECT_EQ(listener.checks, 0);
 
@@ -162,8 +162,11 @@ TEST_F(FullListPageTest, LeavingStoresAndArrowsGoOn) {
     EXPECT_TRUE(control("editHex").hasFocus());
     QTest::keyClick(&control("editHex"), Qt::Key_Up);
     type("editHex", "040506");
-    control("keySearch").setFocus();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return value(messages, "message_pop_send_bg_color") == "#040506"; }));
+    QTest::mouseClick(list().cellAt(index + 1), Qt::LeftButton, {}, QPoint(100, 16));
+    EXPECT_EQ(value(messages, "message_pop_send_bg_color"), "#040506");
+    EXPECT_EQ(list().current(), index + 1);
+    EXPECT_NE(control<QLineEdit>("editHex").text(), "040506");
+    QTest::keyClick(&list(), Qt::Key_Up);
 
     list().setFocus();
     QTest::keyClick(&list(), Qt::Key_C, Qt::ControlModifier);
@@ -243,6 +246,29 @@ TEST_F(FullListPageTest, SwatchOpensTheDialogAndTheThemeFollows) {
     }
 }
 
+TEST_F(FullListPageTest, CancelLeavesCopiesAsTheyDiffered) {
+    open();
+    const KeyPath block{"mms", "commonSetting", "text"};
+    ASSERT_EQ(bench.theme()->setValue(block, "ovui_primary", "#80ff0102"), 0);
+    bench.notifications().SendNotify(nullptr, notify::Notify_ReloadDataMsg);
+    ASSERT_TRUE(page->showLeaf("contacts/commonSetting/text/ovui_primary"));
+    std::string tried;
+    QTimer::singleShot(0, page.get(), [&] {
+        auto* dialog = page->window()->findChild<ZBaseDialog*>();
+        ASSERT_NE(dialog, nullptr);
+        auto& hex = FindControl<QLineEdit>(dialog, "colourHex");
+        hex.selectAll();
+        QTest::keyClicks(&hex, "ff8800");
+        tried = value(block, "ovui_primary");
+        dialog->reject();
+    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return control("detailEdit").isVisible(); }));
+    QTest::mouseClick(&control("detailEdit"), Qt::LeftButton);
+    EXPECT_EQ(tried, "#ff8800");
+    EXPECT_EQ(value(block, "ovui_primary"), "#80ff0102");
+    EXPECT_EQ(value({"contacts", "commonSetting", "text"}, "ovui_primary"), "#242424");
+}
+
 TEST_F(FullListPageTest, ReloadKeepsThePlaceAndTakesWhatIsThere) {
     open();
     page->showModule("mms");
@@ -254,6 +280,8 @@ TEST_F(FullListPageTest, ReloadKeepsThePlaceAndTakesWhatIsThere) {
     EXPECT_EQ(control<QLineEdit>("editHex").text(), "998877");
     EXPECT_FALSE(page->showLeaf("mms/text/nothing"));
     EXPECT_FALSE(page->showLeaf("title"));
+    EXPECT_TRUE(page->showLeaf("launcher/image/ic_edit_share.9.png#2"));
+    EXPECT_TRUE(page->showLeaf("launcher/image/ic_edit_share.9.png")) << "the one that takes part";
 
     openNew("Small", {2, true});
     bench.notifications().SendNotify(nullptr, notify::Notify_ReloadDataMsg);
