@@ -1,35 +1,11 @@
 #include "editor/fileChanges.h"
 
-#include "editor/keyRows.h"
-
-#include <sys/stat.h>
+#include "support/fileComparison.h"
+#include "support/files.h"
 
 #include <utility>
 
 namespace zdt {
-
-namespace {
-
-struct Standing {
-    struct stat status = {}; // Before what its making fills it for.
-    bool exists = false;
-
-    explicit Standing(const std::string& file)
-        : exists(!file.empty() && ::stat(file.c_str(), &status) == 0) {}
-
-    [[nodiscard]] std::string stamp(const std::string& file) const {
-        if (!exists)
-            return {};
-        return file + '\n' + std::to_string(status.st_mtim.tv_sec) + '.' + std::to_string(status.st_mtim.tv_nsec) +
-               '\n' + std::to_string(status.st_size);
-    }
-};
-
-} // namespace
-
-std::string fileStamp(const std::string& file) {
-    return Standing(file).stamp(file);
-}
 
 FileChanges::FileChanges(QObject* parent)
     : QObject(parent) {
@@ -42,13 +18,13 @@ FileChanges::~FileChanges() {
 }
 
 std::optional<bool> FileChanges::differs(const std::string& file, const std::string& standing) {
-    const Standing one(file);
-    const Standing other(standing);
-    if (!one.exists || !other.exists)
-        return one.exists != other.exists;
-    if (one.status.st_size != other.status.st_size)
+    const std::string one = fileStamp(file);
+    const std::string other = fileStamp(standing);
+    if (one.empty() || other.empty())
+        return one.empty() != other.empty();
+    if (fileSize(file) != fileSize(standing))
         return true;
-    const std::string stamp = one.stamp(file) + '\n' + other.stamp(standing);
+    const std::string stamp = one + '\n' + other;
     const auto [entry, isNew] = _known.try_emplace(stamp);
     if (isNew)
         _asked.push_back({stamp, file, standing});

@@ -11,9 +11,6 @@
 
 namespace zdt {
 
-/// A file as it stood at a moment: its path, the time of its last change and its size. Empty for none.
-[[nodiscard]] std::string fileStamp(const std::string& file);
-
 /// Tells which files of a theme differ from the template's. What takes reading is done by a worker, once for each
 /// state of the two.
 class FileChanges : public QObject {

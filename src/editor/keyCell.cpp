@@ -1,5 +1,6 @@
 #include "editor/keyCell.h"
 
+#include "kit/checker.h"
 #include "kit/fonts.h"
 #include "kit/icons.h"
 #include "kit/swatch.h"

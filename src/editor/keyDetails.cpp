@@ -1,6 +1,7 @@
 #include "editor/keyDetails.h"
 
 #include "editor/keyListSource.h"
+#include "kit/checker.h"
 #include "kit/colourText.h"
 #include "kit/localisation.h"
 #include "kit/swatch.h"

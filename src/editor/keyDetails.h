@@ -2,7 +2,7 @@
 
 #include "editor/keyRows.h"
 #include "editor/keyWords.h"
-#include "editor/thumbnails.h"
+#include "kit/thumbnails.h"
 
 #include <QColor>
 #include <QImage>

@@ -5,8 +5,8 @@
 #include "editor/keyFilter.h"
 #include "editor/keyRows.h"
 #include "editor/keyWords.h"
-#include "editor/thumbnails.h"
 #include "kit/cellSource.h"
+#include "kit/thumbnails.h"
 
 #include <QColor>
 #include <QList>

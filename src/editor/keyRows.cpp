@@ -3,11 +3,10 @@
 #include "editor/keyWalk.h"
 #include "model/resNode.h"
 #include "store/themeResource.h"
-#include "support/plainFile.h"
+#include "support/fileComparison.h"
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 namespace zdt {
 
@@ -65,26 +64,6 @@ std::vector<std::pair<std::string, std::string>> differingCopies(const KeyRow& r
 
 bool sameText(KeyKind kind, const std::string& one, const std::string& other) {
     return one == other || (kind == KeyKind::colour && comparable(one) == comparable(other));
-}
-
-bool sameFiles(const std::string& one, const std::string& other) {
-    if (one == other)
-        return true;
-    if (one.empty() || other.empty())
-        return false;
-    const PlainFile first(one);
-    const PlainFile second(other);
-    if (!first.isOpen() || !second.isOpen() || first.size() != second.size())
-        return false;
-    constexpr std::size_t chunk = 65536;
-    std::vector<char> left(chunk);
-    std::vector<char> right(chunk);
-    for (std::uint64_t at = 0; at < first.size(); at += chunk) {
-        const std::size_t count = first.read(at, left.data(), chunk);
-        if (count != second.read(at, right.data(), chunk) || std::memcmp(left.data(), right.data(), count) != 0)
-            return false;
-    }
-    return true;
 }
 
 std::vector<std::string> modulesOf(const std::vector<KeyRow>& rows) {

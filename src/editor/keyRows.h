@@ -74,9 +74,6 @@ void refreshRow(const ThemeResource& theme, KeyRow& row);
 /// out or not.
 [[nodiscard]] bool sameText(KeyKind kind, const std::string& one, const std::string& other);
 
-/// Whether two files hold the same; their sizes are looked at first. An empty path is a file that isn't there.
-[[nodiscard]] bool sameFiles(const std::string& one, const std::string& other);
-
 /// The modules of rows that there are, in the order in which they are shown.
 [[nodiscard]] std::vector<std::string> modulesOf(const std::vector<KeyRow>& rows);
 

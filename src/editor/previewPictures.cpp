@@ -1,9 +1,8 @@
 #include "editor/previewPictures.h"
 
-#include "model/fileResNode.h"
 #include "packaging/pictureConversion.h"
 #include "store/themeResource.h"
-#include "support/files.h"
+#include "support/fileComparison.h"
 
 namespace zdt {
 
@@ -37,7 +36,7 @@ void PreviewPictures::read(const Request& request) {
         if (round != _round)
             return;
         const QImage picture = loadThumbnail(request.file, request.bounds);
-        const bool isOwn = !request.templateFile.empty() && !areSameFiles(request.file, request.templateFile);
+        const bool isOwn = !request.templateFile.empty() && !sameFiles(request.file, request.templateFile);
         emit decoded(round, request.name, picture, isOwn);
     });
 }
@@ -45,13 +44,6 @@ void PreviewPictures::read(const Request& request) {
 void PreviewPictures::measure(const std::string& theme, const std::string& root) {
     _pool.start(
         [this, theme, root, round = _round.load()] { emit added(round, ThemeResource::themeSize(theme, root)); });
-}
-
-bool areSameFiles(const std::string& one, const std::string& other) {
-    if (fileSize(one) != fileSize(other))
-        return false;
-    const std::optional<std::string> bytes = readFile(one, previewMaxBytes);
-    return bytes && bytes == readFile(other, previewMaxBytes);
 }
 
 } // namespace zdt

@@ -46,7 +46,4 @@ private:
     std::atomic<unsigned> _round = 0;
 };
 
-/// Whether two files hold the same bytes.
-[[nodiscard]] bool areSameFiles(const std::string& one, const std::string& other);
-
 } // namespace zdt

@@ -1,9 +1,9 @@
 #include "editor/problemCell.h"
 
 #include "editor/problemWords.h"
+#include "kit/checker.h"
 #include "kit/labels.h"
 #include "kit/localisation.h"
-#include "kit/thumbnail.h"
 #include "kit/tokens.h"
 #include "lockscreen/amazingUnlockNode.h"
 #include "model/returnCode.h"

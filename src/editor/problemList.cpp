@@ -2,10 +2,6 @@
 
 #include "editor/problemCell.h"
 #include "editor/problemWords.h"
-#include "kit/thumbnail.h"
-
-#include <QDateTime>
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -14,13 +10,16 @@ namespace zdt {
 namespace {
 
 constexpr int thumbnailSide = 40;
-constexpr int keptThumbnails = 200;
 
 } // namespace
 
 ProblemList::ProblemList(QObject* parent)
-    : ZListViewDataSource(parent)
-    , _thumbnails(keptThumbnails) {}
+    : ZListViewDataSource(parent) {
+    connect(&_thumbnails, &Thumbnails::ready, this, [this] {
+        if (count() > 0)
+            emit changed(0, count() - 1);
+    });
+}
 
 void ProblemList::show(const std::vector<ProblemRow>& rows, const Filter& filter) {
     _rows.clear();
@@ -76,18 +75,14 @@ QWidget* ProblemList::makeCell(int kind, QWidget* parent) {
 }
 
 QPixmap ProblemList::thumbnail(const std::string& path, double ratio) {
-    if (path.empty())
-        return {};
-    const QString name = QString::fromStdString(path);
-    const QFileInfo file(name);
-    const QString key =
-        QString("%1|%2|%3|%4").arg(name).arg(file.lastModified().toMSecsSinceEpoch()).arg(file.size()).arg(ratio);
-    if (const QPixmap* known = _thumbnails.object(key))
-        return *known;
-    const int side = qRound(thumbnailSide * ratio);
-    QPixmap picture = QPixmap::fromImage(readThumbnail(path, QSize(side, side)));
+    const std::optional<QImage> found = _thumbnails.find(path, QSize(thumbnailSide, thumbnailSide) * ratio);
+    QPixmap picture = QPixmap::fromImage(found.value_or(QImage()));
+    if (!found) {
+        // A cell takes a null picture for a broken one.
+        picture = QPixmap(1, 1);
+        picture.fill(Qt::transparent);
+    }
     picture.setDevicePixelRatio(ratio);
-    _thumbnails.insert(key, new QPixmap(picture));
     return picture;
 }
 

@@ -2,8 +2,8 @@
 
 #include "editor/problemRows.h"
 #include "kit/cellSource.h"
+#include "kit/thumbnails.h"
 
-#include <QCache>
 #include <QPixmap>
 
 #include <functional>
@@ -55,7 +55,7 @@ private:
 
     std::vector<ProblemRow> _rows;
     std::vector<Line> _lines;
-    QCache<QString, QPixmap> _thumbnails;
+    Thumbnails _thumbnails;
 };
 
 } // namespace zdt

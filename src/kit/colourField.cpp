@@ -1,5 +1,6 @@
 #include "kit/colourField.h"
 
+#include "kit/checker.h"
 #include "kit/swatch.h"
 #include "kit/tokens.h"
 

@@ -89,6 +89,8 @@ void setStyleProperty(QWidget* widget, const char* name, const QVariant& value) 
     if (widget->property(name) == value)
         return;
     widget->setProperty(name, value);
+    if (!widget->testAttribute(Qt::WA_WState_Polished)) // It is dressed when it is first shown.
+        return;
     widget->style()->unpolish(widget);
     widget->style()->polish(widget);
     widget->update();

@@ -4,6 +4,7 @@
 #include "kit/kitStyle.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QSet>
@@ -25,8 +26,8 @@ SkinLoader::Result failed(const QString& name, const QString& why) {
 
 } // namespace
 
-/// Qt's loader gives null for an unknown class and says nothing, so it is noticed here. It looks for plugins when it is
-/// made, which takes time: one serves all layouts.
+/// Qt's loader gives null for an unknown class and says nothing, so it is noticed here. Making one takes time: one
+/// serves all layouts.
 class FormLoader : public QUiLoader {
 public:
     FormLoader() {
@@ -64,9 +65,23 @@ private:
     QStringList _unknown;
 };
 
+namespace {
+
+/// Qt's loader takes in every plugin of Qt Designer that the system has when it is made, with the libraries they ask
+/// for. Layouts of the skin use none of them, so it is made where it finds none.
+std::shared_ptr<FormLoader> makeFormLoader() {
+    const QStringList paths = QCoreApplication::libraryPaths();
+    QCoreApplication::setLibraryPaths({});
+    auto loader = std::make_shared<FormLoader>();
+    QCoreApplication::setLibraryPaths(paths);
+    return loader;
+}
+
+} // namespace
+
 SkinLoader::SkinLoader(QStringList folders)
     : _folders(std::move(folders))
-    , _loader(std::make_shared<FormLoader>()) {
+    , _loader(makeFormLoader()) {
     registerKitControls(*this);
 }
 

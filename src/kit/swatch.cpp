@@ -1,5 +1,6 @@
 #include "kit/swatch.h"
 
+#include "kit/checker.h"
 #include "kit/colourText.h"
 #include "kit/tokens.h"
 
@@ -15,19 +16,6 @@ constexpr int opaque = 255;
 constexpr QColor edge(0, 0, 0, 46);
 
 } // namespace
-
-void paintChecker(QPainter& painter, const QRectF& place) {
-    painter.save();
-    painter.setClipRect(place, Qt::IntersectClip);
-    painter.fillRect(place, token::checkerLight);
-    constexpr int step = token::checkerSquare;
-    for (int row = 0; row * step < place.height(); ++row) {
-        for (int column = row % 2; column * step < place.width(); column += 2)
-            painter.fillRect(QRectF(place.left() + column * step, place.top() + row * step, step, step),
-                             token::checkerDark);
-    }
-    painter.restore();
-}
 
 void paintSwatch(QPainter& painter, const QRectF& place, const QColor& colour, double radius) {
     painter.save();

@@ -8,9 +8,6 @@ class QRectF;
 
 namespace zdt {
 
-/// Fills `place` with the checkerboard that lies behind pictures and see-through colours.
-void paintChecker(QPainter& painter, const QRectF& place);
-
 /// Draws a colour, over a checkerboard where it is see-through, with rounded corners and an edge that is seen on any
 /// ground.
 void paintSwatch(QPainter& painter, const QRectF& place, const QColor& colour, double radius);

@@ -40,6 +40,8 @@ namespace {
 /// The smallest window in which every page is whole, in logical pixels.
 constexpr QSize smallestWindow(1024, 740);
 
+/// Milliseconds.
+constexpr int preparePause = 250;
 /// The program's sign in the title bar, and between it and the name.
 constexpr int logoSide = 24;
 constexpr int logoGap = 6;
@@ -102,8 +104,8 @@ void CMainFrameWnd::makePages() {
     }
     connect(_pages.get(), &CEditorPages::changed, this, &CMainFrameWnd::showCounts);
     connect(_pages.get(), &CEditorPages::descriptionRequested, this, &CMainFrameWnd::openExport);
-    // Pages of the editor are made before they are asked for, once the start page stands.
-    QTimer::singleShot(0, this, [this] { QTimer::singleShot(0, this, [this] { _pages->prepare(); }); });
+    // Pages of the editor are made before they are asked for, once the start page is seen.
+    QTimer::singleShot(preparePause, this, [this] { _pages->prepare(); });
 }
 
 void CMainFrameWnd::openAbout() {

@@ -8,9 +8,9 @@
 #include "kit/localisation.h"
 #include "kit/optionCard.h"
 #include "kit/textLookup.h"
-#include "kit/thumbnail.h"
 #include "kit/tokens.h"
 #include "model/template.h"
+#include "packaging/pictureConversion.h"
 #include "shell/newThemeRules.h"
 #include "store/themeLayout.h"
 
@@ -42,7 +42,7 @@ QString key(std::string_view text) {
 QPixmap phonePicture(const std::string& root, unsigned generation, double ratio) {
     constexpr int tallest = 2 * cardPicture;
     const std::string file = locateTemplate(root, generation) + cardPreview;
-    QPixmap picture = QPixmap::fromImage(readThumbnail(file, QSize(cardPicture, tallest) * ratio));
+    QPixmap picture = QPixmap::fromImage(loadThumbnail(file, QSize(cardPicture, tallest) * ratio));
     picture.setDevicePixelRatio(ratio);
     return picture;
 }
@@ -142,7 +142,7 @@ bool CNewThemeDialog::checkChinese() {
 
 ThemeWish CNewThemeDialog::chosen() const {
     ThemeWish theme{_name.edit->text().trimmed().toStdString(), _chinese.edit->text().trimmed().toStdString(), 0,
-                   _small->isChecked()};
+                    _small->isChecked()};
     for (unsigned index = 0; index < generationCount; ++index) {
         if (_generations[index]->isChecked())
             theme.generation = index;
@@ -162,7 +162,8 @@ void CNewThemeDialog::create() {
     wrong->selectAll();
 }
 
-std::optional<ThemeWish> CNewThemeDialog::ask(Workbench& bench, const std::vector<std::string>& taken, QWidget* parent) {
+std::optional<ThemeWish> CNewThemeDialog::ask(Workbench& bench, const std::vector<std::string>& taken,
+                                              QWidget* parent) {
     CNewThemeDialog dialog(bench, taken, parent);
     return dialog.exec() == Accepted ? std::optional(dialog.chosen()) : std::nullopt;
 }

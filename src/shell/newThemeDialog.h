@@ -41,7 +41,7 @@ public:
     /// Shows the dialog and waits; nothing if it was cancelled.
     /// @throws LayoutError as the constructor
     [[nodiscard]] static std::optional<ThemeWish> ask(Workbench& bench, const std::vector<std::string>& taken,
-                                                     QWidget* parent);
+                                                      QWidget* parent);
 
 private:
     /// A field with what is said of it below.

@@ -13,7 +13,7 @@ namespace zdt {
 namespace {
 
 /// The sizes that window systems and pages ask for, in pixels.
-constexpr std::array<int, 7> sides{16, 24, 32, 48, 64, 96, 256};
+constexpr std::array<int, 5> sides{16, 24, 32, 48, 96};
 
 QPixmap draw(int side) {
     QPixmap picture(side, side);

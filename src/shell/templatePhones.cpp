@@ -4,11 +4,12 @@
 #include "kit/skinFolder.h"
 #include "kit/tokens.h"
 
-#include <QImageReader>
+#include <QImage>
 #include <QPainter>
 #include <QPainterPath>
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 namespace zdt {
@@ -27,37 +28,19 @@ constexpr int outerRadius = 30;
 constexpr int innerRadius = 22;
 constexpr QColor body(0x1B, 0x1C, 0x1F);
 
+/// A screen of the front phone in the largest window, in logical pixels.
+constexpr QSize largestScreen(320, 640);
+
 const std::array<Phone, 3> phones{{{QRect(0, 56, 200, 400), "preview_widget_0.jpg"},
                                    {QRect(312, 56, 200, 400), "preview_mms_0.jpg"},
                                    {QRect(134, 0, 252, 488), "cover.jpg"}}};
-
-QPixmap readScreen(const char* name, QSize wanted, double ratio) {
-    const std::string folder = skinRoots().program + "default9.1/preview/";
-    QImageReader reader(QString::fromStdString(folder + name));
-    const QSize size = reader.size();
-    if (!size.isValid())
-        return {};
-    const QSize scaled = size.scaled(wanted * ratio, Qt::KeepAspectRatioByExpanding);
-    reader.setScaledSize(scaled);
-    QPixmap screen = QPixmap::fromImage(reader.read());
-    screen.setDevicePixelRatio(ratio);
-    return screen;
-}
 
 } // namespace
 
 CTemplatePhones::CTemplatePhones(QWidget* parent)
     : QWidget(parent) {
     setMinimumSize(360, 343);
-}
-
-void CTemplatePhones::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
-    if (_loaded)
-        return;
-    _loaded = true;
-    for (std::size_t index = 0; index < phones.size(); ++index)
-        _screens[index] = readScreen(phones[index].preview, phones[index].place.size() * 1.5, devicePixelRatioF());
+    connect(&_screens, &Thumbnails::ready, this, qOverload<>(&QWidget::update));
 }
 
 void CTemplatePhones::paintEvent(QPaintEvent*) {
@@ -68,10 +51,11 @@ void CTemplatePhones::paintEvent(QPaintEvent*) {
         std::min({1.35, double(width()) / allPhones.width(), double(height()) / (allPhones.height() + 40)});
     painter.translate((width() - allPhones.width() * scale) / 2, (height() - allPhones.height() * scale) / 2);
     painter.scale(scale, scale);
-    for (std::size_t index = 0; index < phones.size(); ++index) {
-        if (_screens[index].isNull())
+    const std::string folder = skinRoots().program + "default9.1/preview/";
+    for (const auto& [place, preview] : phones) {
+        const QImage picture = _screens.picture(folder + preview, largestScreen * devicePixelRatioF());
+        if (picture.isNull())
             continue;
-        const QRect place = phones[index].place;
         paintShadow(painter, place, outerRadius, token::shadowPhone);
         painter.setPen(Qt::NoPen);
         painter.setBrush(body);
@@ -81,9 +65,9 @@ void CTemplatePhones::paintEvent(QPaintEvent*) {
         shape.addRoundedRect(screen, innerRadius, innerRadius);
         painter.save();
         painter.setClipPath(shape);
-        const QSizeF size = QSizeF(_screens[index].size()).scaled(screen.size(), Qt::KeepAspectRatioByExpanding);
+        const QSizeF size = QSizeF(picture.size()).scaled(screen.size(), Qt::KeepAspectRatioByExpanding);
         const QRectF target(QPointF(screen.center().x() - size.width() / 2, screen.top()), size);
-        painter.drawPixmap(target, _screens[index], QRectF(QPointF(), _screens[index].size()));
+        painter.drawImage(target, picture);
         painter.restore();
     }
 }

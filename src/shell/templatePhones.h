@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QPixmap>
-#include <QWidget>
+#include "kit/thumbnails.h"
 
-#include <array>
+#include <QWidget>
 
 namespace zdt {
 
@@ -19,12 +18,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void showEvent(QShowEvent* event) override;
 
 private:
-    /// Left, right and, in front of both, middle.
-    std::array<QPixmap, 3> _screens;
-    bool _loaded = false;
+    Thumbnails _screens;
 };
 
 } // namespace zdt

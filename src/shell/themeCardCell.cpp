@@ -71,10 +71,12 @@ ThemeCardCell::ThemeCardCell(QWidget* parent)
             [this] { emit menuRequested(_index, _menu->mapToGlobal(_menu->rect().bottomLeft())); });
 }
 
-void ThemeCardCell::show(int index, const ThemeCard& card, const QPixmap& cover, std::optional<std::uint64_t> bytes) {
+void ThemeCardCell::show(int index, const ThemeCard& card, const std::optional<QImage>& cover,
+                         std::optional<std::uint64_t> bytes) {
     _index = index;
     _card = card;
-    _cover = cover;
+    _cover = QPixmap::fromImage(cover.value_or(QImage()));
+    _hasNoCover = cover && cover->isNull();
     _bytes = bytes;
     _open->setText(Text("kStart_open"));
     _menu->setToolTip(Text("kStart_menu"));
@@ -116,8 +118,8 @@ void ThemeCardCell::paintCover(QPainter& painter) const {
     painter.setClipPath(roundedTop(place, token::radiusCard - 1));
     if (_cover.isNull()) {
         painter.fillRect(place, token::canvas);
-        // A picture that is still being read isn't missing: nothing is drawn before that is known.
-        if (_bytes)
+        // A picture that is still being read isn't missing.
+        if (_hasNoCover)
             paintIcon(painter, QRectF(place.center() - QPoint(emptyIcon, emptyIcon) / 2, QSize(emptyIcon, emptyIcon)),
                       Icon::Image, token::iconEmpty);
     } else {

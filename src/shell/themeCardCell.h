@@ -3,6 +3,7 @@
 #include "kit/cellSource.h"
 #include "shell/themeList.h"
 
+#include <QImage>
 #include <QPixmap>
 #include <QWidget>
 
@@ -21,9 +22,9 @@ class ThemeCardCell : public QWidget {
 public:
     explicit ThemeCardCell(QWidget* parent);
 
-    /// @param cover null while it isn't known, or if there is none
+    /// @param cover nothing while it isn't known; null if there is none
     /// @param bytes the theme's size; nothing while it isn't known
-    void show(int index, const ThemeCard& card, const QPixmap& cover, std::optional<std::uint64_t> bytes);
+    void show(int index, const ThemeCard& card, const std::optional<QImage>& cover, std::optional<std::uint64_t> bytes);
     void showState(const CellState& state);
 
     [[nodiscard]] int index() const { return _index; }
@@ -45,6 +46,7 @@ private:
     QPushButton* _menu;
     ThemeCard _card;
     QPixmap _cover;
+    bool _hasNoCover = false;
     std::optional<std::uint64_t> _bytes;
     CellState _state;
     int _index = -1;

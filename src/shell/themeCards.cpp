@@ -3,6 +3,8 @@
 #include "kit/localisation.h"
 #include "shell/themeCardCell.h"
 
+#include <QImage>
+
 #include <algorithm>
 #include <optional>
 #include <utility>
@@ -12,14 +14,19 @@ namespace zdt {
 namespace {
 
 /// A card's width varies a little with the window; its cover is decoded once, for the widest.
-constexpr int widestCover = 216;
+constexpr QSize largestCover(216, 384);
+/// 250 covers at a device pixel ratio of 1.
+constexpr int coverKilobytes = 64 * 1024;
 
 } // namespace
 
 ThemeCards::ThemeCards(const std::string& root, double ratio, QObject* parent)
     : ZFlowViewDataSource(parent)
-    , _covers(root, QSize(widestCover, widestCover * 16 / 9) * ratio) {
-    connect(&_covers, &CoverLoader::loaded, this, [this](const QString& name) {
+    , _ratio(ratio)
+    , _covers(coverKilobytes)
+    , _sizes(root) {
+    connect(&_covers, &Thumbnails::ready, this, &ThemeCards::refresh);
+    connect(&_sizes, &ThemeSizes::known, this, [this](const QString& name) {
         const int index = indexOf(name.toStdString());
         if (index >= 0)
             emit changed(index, index);
@@ -69,9 +76,8 @@ QWidget* ThemeCards::makeCell(int, QWidget* parent) {
 
 void ThemeCards::fillCell(QWidget* cell, int index) {
     const ThemeCard& card = theme(index);
-    const CoverLoader::Entry* known = _covers.entry(card);
-    static_cast<ThemeCardCell*>(cell)->show(index, card, known ? known->cover : QPixmap(),
-                                            known ? std::optional(known->bytes) : std::nullopt);
+    const std::optional<QImage> cover = _covers.find(card.cover, largestCover * _ratio);
+    static_cast<ThemeCardCell*>(cell)->show(index, card, cover, _sizes.find(card.name, card.changedAt));
 }
 
 QString ThemeCards::accessibleName(int index) const {

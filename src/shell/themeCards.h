@@ -1,8 +1,9 @@
 #pragma once
 
 #include "kit/cellSource.h"
-#include "shell/coverLoader.h"
+#include "kit/thumbnails.h"
 #include "shell/themeList.h"
+#include "shell/themeSizes.h"
 
 #include <QString>
 
@@ -16,7 +17,7 @@ class ThemeCards : public ZFlowViewDataSource {
     Q_OBJECT
 
 public:
-    /// @param ratio device pixels to a logical one, of the covers
+    /// @param ratio device pixels to a logical one, of the screen
     ThemeCards(const std::string& root, double ratio, QObject* parent = nullptr);
 
     void setThemes(std::vector<ThemeCard> themes);
@@ -46,7 +47,9 @@ private:
     std::vector<ThemeCard> _themes;
     std::vector<std::size_t> _found;
     std::string _search;
-    CoverLoader _covers;
+    double _ratio;
+    Thumbnails _covers;
+    ThemeSizes _sizes;
 };
 
 } // namespace zdt

@@ -2,6 +2,7 @@
 
 #include "store/themeLayout.h"
 #include "support/files.h"
+#include "support/parallel.h"
 #include "support/text.h"
 
 #include <sys/stat.h>
@@ -51,9 +52,12 @@ ThemeCard readThemeCard(const std::string& name, const std::string& root) {
 }
 
 std::vector<ThemeCard> readThemeCards(const std::string& root, ThemeOrder order) {
-    std::vector<ThemeCard> cards;
-    for (const std::string& name : ThemeResource::listThemes(root))
-        cards.push_back(readThemeCard(name, root));
+    const std::vector<std::string> names = ThemeResource::listThemes(root);
+    std::vector<ThemeCard> cards(names.size());
+    static_cast<void>(parallelFor(names.size(), [&](std::size_t index) {
+        cards[index] = readThemeCard(names[index], root);
+        return true;
+    }));
     if (order == ThemeOrder::byChange)
         std::stable_sort(cards.begin(), cards.end(),
                          [](const ThemeCard& one, const ThemeCard& other) { return one.changedAt > other.changedAt; });

@@ -7,6 +7,7 @@
 #include "model/resNode.h"
 #include "modules/themeNode.h"
 #include "store/keyText.h"
+#include "support/fileComparison.h"
 
 #include <gtest/gtest.h>
 
