@@ -97,8 +97,6 @@ QWidget* factRow(const KeyFact& fact) {
     }
     QLabel* value = factLabel(breakable(fact.value), fact.isMono ? "mono" : "small");
     value->setObjectName("factValue");
-    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    value->setFocusPolicy(Qt::NoFocus);
     value->setAccessibleName(fact.label + " " + fact.value);
     line->addWidget(value, 1, Qt::AlignTop);
     return row;

@@ -52,15 +52,24 @@ KeyListSource::KeyListSource(QObject* parent)
 
 void KeyListSource::load(const ThemeResource* theme) {
     _rows = theme ? keyRowsOf(*theme) : std::vector<KeyRow>();
-    _words.clear();
-    for (const KeyRow& row : _rows)
-        _words.push_back(wordsOf(row));
-    findChanges();
+    _words.assign(_rows.size(), {});
+    _hasWords.assign(_rows.size(), false);
+    _changed.assign(_rows.size(), {});
+    _wasCompared.assign(_rows.size(), false);
     choose();
+}
+
+const KeyWords& KeyListSource::wordsAt(std::size_t at) const {
+    if (!_hasWords[at]) {
+        _words[at] = wordsOf(_rows[at]);
+        _hasWords[at] = true;
+    }
+    return _words[at];
 }
 
 void KeyListSource::findChange(std::size_t at) {
     const KeyRow& row = _rows[at];
+    _wasCompared[at] = true;
     _changed[at] = false;
     for (const KeyPlace& place : row.places) {
         const std::optional<bool> differs = isFile(row.kind)
@@ -76,9 +85,10 @@ void KeyListSource::findChange(std::size_t at) {
 }
 
 void KeyListSource::findChanges() {
-    _changed.resize(_rows.size());
-    for (std::size_t at = 0; at < _rows.size(); ++at)
-        findChange(at);
+    for (std::size_t at = 0; at < _rows.size(); ++at) {
+        if (_wasCompared[at])
+            findChange(at);
+    }
     _changes.start();
 }
 
@@ -90,7 +100,16 @@ void KeyListSource::setFilter(const KeyFilter& filter) {
 void KeyListSource::choose() {
     KeyFilter all = _filter;
     all.changedOnly = false;
+    if (!all.text.isEmpty()) {
+        for (std::size_t at = 0; at < _rows.size(); ++at)
+            static_cast<void>(wordsAt(at));
+    }
     _filtered = shownRows(_rows, _words, all, {});
+    for (const int at : _filtered) {
+        if (!_wasCompared[static_cast<std::size_t>(at)])
+            findChange(static_cast<std::size_t>(at));
+    }
+    _changes.start();
     _shown = _filtered;
     if (_filter.changedOnly)
         std::erase_if(_shown, [&](int at) { return !_changed[static_cast<std::size_t>(at)].value_or(false); });

@@ -32,7 +32,7 @@ public:
     [[nodiscard]] const KeyFilter& filter() const { return _filter; }
 
     [[nodiscard]] const KeyRow& row(int index) const { return _rows[place(index)]; }
-    [[nodiscard]] const KeyWords& words(int index) const { return _words[place(index)]; }
+    [[nodiscard]] const KeyWords& words(int index) const { return wordsAt(place(index)); }
     [[nodiscard]] bool isChanged(int index) const { return _changed[place(index)].value_or(false); }
     /// Of all rows that are shown but for the choice of changed ones; nothing while it is being found out.
     [[nodiscard]] std::optional<int> changedCount() const;
@@ -70,14 +70,18 @@ private:
     [[nodiscard]] std::size_t place(int index) const {
         return static_cast<std::size_t>(_shown[static_cast<std::size_t>(index)]);
     }
+    [[nodiscard]] const KeyWords& wordsAt(std::size_t at) const;
     void findChange(std::size_t at);
     void findChanges();
     void choose();
     void fillFile(KeyCellContent& content, const KeyRow& row, double ratio);
 
     std::vector<KeyRow> _rows;
-    std::vector<KeyWords> _words;
+    // Found out for the rows that are shown or searched, not for all at once.
+    mutable std::vector<KeyWords> _words;
+    mutable std::vector<bool> _hasWords;
     std::vector<std::optional<bool>> _changed; ///< Nothing while two files are compared.
+    std::vector<bool> _wasCompared;
     KeyFilter _filter;
     std::vector<int> _filtered;
     std::vector<int> _shown;

@@ -71,6 +71,8 @@ void CProblemPage::makeChips() {
 }
 
 void CProblemPage::connectControls() {
+    _soon.setSingleShot(true);
+    connect(&_soon, &QTimer::timeout, this, &CProblemPage::check);
     connect(&_again, &QPushButton::clicked, this, &CProblemPage::check);
     connect(&_view, &ZListView::activated, this, &CProblemPage::goTo);
     connect(_list, &ProblemList::goToClicked, this, &CProblemPage::goTo);
@@ -79,7 +81,7 @@ void CProblemPage::connectControls() {
 }
 
 void CProblemPage::Notify(const Notification& message) {
-    if (message.name == notify::Notify_Error_List_Msg && message.lParam != 0)
+    if (message.name == notify::Notify_Error_List_Msg && message.lParam != 0 && !message.async)
         showProblems(*reinterpret_cast<const std::vector<Problem>*>(message.lParam));
     else if (message.name == notify::Notify_Error_List_refresh)
         check();
@@ -87,7 +89,15 @@ void CProblemPage::Notify(const Notification& message) {
         ZPage::Notify(message);
 }
 
+void CProblemPage::reload() {
+    if (isVisible())
+        check();
+    else
+        _soon.start();
+}
+
 void CProblemPage::check() {
+    _soon.stop();
     std::vector<Problem> problems;
     if (theme())
         static_cast<void>(theme()->checkFiles(problems));

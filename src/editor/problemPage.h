@@ -5,6 +5,7 @@
 
 #include <QPointer>
 #include <QString>
+#include <QTimer>
 
 #include <map>
 #include <optional>
@@ -48,7 +49,8 @@ signals:
     void countsChanged();
 
 protected:
-    void reload() override { check(); }
+    /// Checks at once while the page is seen, else soon: another page comes first then.
+    void reload() override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -93,6 +95,7 @@ private:
     std::vector<ProblemRow> _rows;
     std::optional<Problem> _wanted; ///< To become current with the next list.
     QPointer<QWidget> _tabCell;
+    QTimer _soon;
     QString _time; ///< Of the last check; empty before it.
 };
 
