@@ -44,6 +44,17 @@ bool liesWithin(const std::string& version, int first, int last) {
     return number && *number >= first && *number <= last;
 }
 
+bool holds(const std::string& name, std::string_view tag) {
+    return name.find(tag) != std::string::npos;
+}
+
+} // namespace
+
+const ExportTarget& exportTarget(unsigned generation) {
+    ZDT_ASSERT(generation < targets.size(), "exportForm");
+    return targets[generation];
+}
+
 std::string_view checkEnglishName(const std::string& text) {
     const std::u32string name = toCodePoints(text);
     if (name.empty())
@@ -54,17 +65,6 @@ std::string_view checkEnglishName(const std::string& text) {
     if (isForeign || holdsForbidden(name, forbiddenInEnglish))
         return exportMessage::forbiddenSign;
     return name.size() > longestEnglishName ? exportMessage::longEnglishName : std::string_view();
-}
-
-bool holds(const std::string& name, std::string_view tag) {
-    return name.find(tag) != std::string::npos;
-}
-
-} // namespace
-
-const ExportTarget& exportTarget(unsigned generation) {
-    ZDT_ASSERT(generation < targets.size(), "exportForm");
-    return targets[generation];
 }
 
 std::string_view checkChineseName(const std::string& text) {
