@@ -18,6 +18,21 @@ namespace {
 /// Pixels that one notch of the wheel scrolls, by three steps.
 constexpr int scrollStep = 20;
 
+/// Notes for its life that a view is moving its cells.
+class Placing {
+public:
+    explicit Placing(int& depth)
+        : _depth(depth) {
+        ++_depth;
+    }
+    ~Placing() { --_depth; }
+    Placing(const Placing&) = delete;
+    Placing& operator=(const Placing&) = delete;
+
+private:
+    int& _depth;
+};
+
 /// The ring of the current cell lies over the cells, 2 inside the row.
 class CellRing : public QWidget {
 public:
@@ -32,7 +47,9 @@ protected:
         QPainter painter(this);
         painter.setPen(QPen(token::accent, token::ringWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         const int half = token::ringWidth / 2;
-        painter.drawRect(rect().adjusted(half, half, -half, -half));
+        const int radius = property("radius").toInt();
+        painter.setRenderHint(QPainter::Antialiasing, radius > 0);
+        painter.drawRoundedRect(rect().adjusted(half, half, -half, -half), radius, radius);
     }
 };
 
@@ -67,11 +84,13 @@ void CellView::setCellSource(CellSource* source) {
 }
 
 void CellView::start() {
+    const Placing placing(_placing);
     freeCells(0, 0);
     _hovered = -1;
     const int before = _current;
     _current = selectableFrom(std::min(_current, count() - 1), -1);
     relayout();
+    findHovered();
     if (_current != before)
         emit currentChanged(_current);
 }
@@ -88,6 +107,7 @@ QRect CellView::seenPlace(int index) const {
 }
 
 void CellView::freeCells(int first, int end) {
+    const Placing placing(_placing);
     for (auto at = _shown.begin(); at != _shown.end();) {
         if (at->first >= first && at->first < end) {
             ++at;
@@ -113,6 +133,7 @@ CellView::Cell CellView::takeCell(int kind) {
 }
 
 void CellView::placeCells() {
+    const Placing placing(_placing);
     const int top = verticalScrollBar()->value();
     const int first = firstBelow(top);
     int end = first;
@@ -146,9 +167,11 @@ CellState CellView::stateOf(int index) const {
 }
 
 void CellView::showStates() {
+    const Placing placing(_placing);
     for (const auto& [index, cell] : _shown)
         _source->showState(cell.widget, index, stateOf(index));
     const bool ringed = _current >= 0 && stateOf(_current).ringed;
+    _ring->setProperty("radius", ringRadius());
     if (ringed)
         _ring->setGeometry(seenPlace(_current));
     _ring->setVisible(ringed);
@@ -203,17 +226,22 @@ void CellView::paintEvent(QPaintEvent*) {
         paintGround(painter, seenPlace(index), stateOf(index));
 }
 
+/// No event tells that another cell came under a pointer that stands still.
+void CellView::findHovered() {
+    const int hovered = underMouse() ? selectableAt(viewport()->mapFromGlobal(QCursor::pos())) : -1;
+    if (hovered == _hovered)
+        return;
+    _hovered = hovered;
+    showStates();
+}
+
 void CellView::resizeEvent(QResizeEvent*) {
     relayout();
 }
 
 void CellView::scrollContentsBy(int, int) {
     placeCells();
-    // No event tells that another cell came under a pointer that stands still.
-    if (_hovered >= 0) {
-        _hovered = selectableAt(viewport()->mapFromGlobal(QCursor::pos()));
-        showStates();
-    }
+    findHovered();
 }
 
 } // namespace zdt

@@ -51,6 +51,8 @@ protected:
     [[nodiscard]] virtual int stepOf(int key) const = 0;
     /// Measures, and places the cells again.
     void relayout();
+    /// The corners of the ring around the current cell.
+    [[nodiscard]] virtual int ringRadius() const { return 0; }
     /// Draws what lies under a cell, in the viewport.
     virtual void paintGround(QPainter& painter, const QRect& place, const CellState& state) const;
 
@@ -78,6 +80,7 @@ private:
     void freeCells(int first, int end);
     [[nodiscard]] Cell takeCell(int kind);
     void refill(int first, int last);
+    void findHovered();
     void showStates();
     void step(int by);
     [[nodiscard]] int selectableFrom(int index, int direction) const;
@@ -91,6 +94,9 @@ private:
     QWidget* _ring;
     int _current = -1;
     int _hovered = -1;
+    /// Above 0 while cells come, go and change: each that is hidden or shown under the pointer tells that it is left or
+    /// entered, which is not to be answered then.
+    int _placing = 0;
 };
 
 } // namespace zdt

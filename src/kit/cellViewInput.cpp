@@ -92,7 +92,7 @@ void CellView::focusOutEvent(QFocusEvent* event) {
 }
 
 bool CellView::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Enter || event->type() == QEvent::Leave) {
+    if (_placing == 0 && (event->type() == QEvent::Enter || event->type() == QEvent::Leave)) {
         for (const auto& [index, cell] : _shown) {
             if (cell.widget == watched)
                 _hovered = event->type() == QEvent::Enter && cellSource()->isSelectable(index) ? index : -1;

@@ -1,5 +1,7 @@
 #include "kit/flowView.h"
 
+#include "kit/tokens.h"
+
 #include <algorithm>
 
 namespace zdt {
@@ -40,6 +42,10 @@ int ZFlowView::contentHeight() const {
 int ZFlowView::firstBelow(int y) const {
     const int row = std::max(0, y - _end + _gap) / (_least.height() + _gap);
     return std::min(count(), row * _columns);
+}
+
+int ZFlowView::ringRadius() const {
+    return token::radiusCard;
 }
 
 int ZFlowView::stepOf(int key) const {

@@ -25,6 +25,7 @@ protected:
     [[nodiscard]] int contentHeight() const override;
     [[nodiscard]] int firstBelow(int y) const override;
     [[nodiscard]] int stepOf(int key) const override;
+    [[nodiscard]] int ringRadius() const override;
     /// Cards draw themselves.
     void paintGround(QPainter&, const QRect&, const CellState&) const override {}
 

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStyle>
@@ -111,6 +112,9 @@ void setButtonIcon(QAbstractButton* button, Icon which, int size) {
 void polishControls(QWidget* root) {
     for (QAbstractButton* button : root->findChildren<QAbstractButton*>())
         iconByName(*button);
+    // On a page Enter presses what has the keyboard, as in a dialog.
+    for (QPushButton* button : root->findChildren<QPushButton*>())
+        button->setAutoDefault(true);
     // What is dropped is the window's: a field would take the address of a file for a text.
     for (QLineEdit* field : root->findChildren<QLineEdit*>())
         field->setAcceptDrops(false);

@@ -1,5 +1,6 @@
 #include "kit/segmentedControl.h"
 
+#include "kit/exclusiveFocus.h"
 #include "kit/tokens.h"
 
 #include <QButtonGroup>
@@ -52,6 +53,7 @@ void ZSegmented::add(const QString& label, int index) {
     button->setAutoDefault(false);
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     _group->addButton(button, index);
+    tabToChosen({button});
     _row->addWidget(button);
 }
 

@@ -93,12 +93,21 @@ void TitleDrag::dragFrom(const QPoint& position) {
     window->startSystemMove();
 }
 
+void TitleDrag::doubleClick(const QMouseEvent& event) {
+    // The first click may have been on a button that the click took away.
+    const bool wasHere = event.timestamp() - _pressedAt <= static_cast<quint64>(QApplication::doubleClickInterval());
+    auto* window = qobject_cast<ZWindow*>(_titleBar->window());
+    if (window && wasHere && event.button() == Qt::LeftButton)
+        window->toggleMaximised();
+}
+
 bool TitleDrag::eventFilter(QObject*, QEvent* event) {
     switch (event->type()) {
     case QEvent::MouseButtonPress: {
         const auto* mouse = static_cast<QMouseEvent*>(event);
         _held = mouse->button() == Qt::LeftButton;
         _pressed = mouse->position().toPoint();
+        _pressedAt = mouse->timestamp();
         return _held;
     }
     case QEvent::MouseMove:
@@ -109,9 +118,7 @@ bool TitleDrag::eventFilter(QObject*, QEvent* event) {
         return true;
     case QEvent::MouseButtonDblClick:
         _held = false;
-        if (auto* window = qobject_cast<ZWindow*>(_titleBar->window());
-            window && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
-            window->toggleMaximised();
+        doubleClick(*static_cast<QMouseEvent*>(event));
         return true;
     default:
         return false;

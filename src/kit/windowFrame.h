@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPoint>
 
+class QMouseEvent;
 class QWidget;
 
 namespace zdt {
@@ -34,10 +35,12 @@ public:
 
 private:
     void dragFrom(const QPoint& position);
+    void doubleClick(const QMouseEvent& event);
 
     QWidget* _titleBar;
     QPoint _pressed;
     bool _held = false;
+    quint64 _pressedAt = 0; ///< Milliseconds, of the last press on an empty part.
 };
 
 } // namespace zdt

@@ -38,7 +38,9 @@ QImage loadPicture(const std::string& path) {
 QImage loadThumbnail(const std::string& path, const QSize& bounds) {
     PictureReader reader(path);
     reader.shrinkInto(bounds);
-    return reader.read();
+    // Pictures of one bit and of palettes are drawn with the painter's colours, or slowly.
+    const QImage picture = reader.read();
+    return picture.isNull() ? picture : picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 bool isWholeJpeg(std::string_view bytes) {

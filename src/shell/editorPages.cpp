@@ -4,6 +4,7 @@
 #include "editor/problemPage.h"
 #include "kit/controlSearch.h"
 #include "kit/countButton.h"
+#include "kit/exclusiveFocus.h"
 #include "shell/pageMaker.h"
 
 #include <QAbstractButton>
@@ -38,6 +39,7 @@ CEditorPages::CEditorPages(Workbench& bench, QWidget* frame)
             continue;
         _rows.push_back(row);
         connect(row, &QAbstractButton::clicked, this, [this, row] { showModule(moduleOf(*row)); });
+        tabToChosen({row});
     }
 }
 
@@ -80,6 +82,8 @@ void CEditorPages::showProblems() {
     makeProblems();
     checkRow({});
     _place.setCurrentWidget(_problemPlace);
+    if (_problems)
+        _problems->check();
     emit changed();
 }
 

@@ -11,6 +11,7 @@ namespace zdt {
 namespace {
 
 constexpr std::string_view specialSign = "kWarn_newtheme_special_sign";
+constexpr std::string_view longName = "kNew_name_long";
 constexpr std::string_view alreadyThere = "kWarn_File_hadExist";
 constexpr std::string_view imported = "kWarn_Import_theme_sucess";
 constexpr std::string_view notImported = "kWarn_import_correct_theme_config";
@@ -27,8 +28,9 @@ ImportPlan planImport(const std::string& package, const std::vector<std::string>
     case NameProblem::empty:
     case NameProblem::forbiddenSign:
     case NameProblem::onlyDots:
-    case NameProblem::tooLong:
         break;
+    case NameProblem::tooLong:
+        return {ImportPlan::Step::refuse, longName, name};
     }
     return {ImportPlan::Step::refuse, specialSign, name};
 }

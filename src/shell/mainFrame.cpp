@@ -3,6 +3,7 @@
 #include "editor/exportPage.h"
 #include "kit/controlSearch.h"
 #include "kit/countButton.h"
+#include "kit/exclusiveFocus.h"
 #include "kit/icons.h"
 #include "kit/labels.h"
 #include "kit/layoutError.h"
@@ -21,8 +22,10 @@
 #include "shell/themeList.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
@@ -44,7 +47,7 @@ constexpr QSize smallestWindow(1024, 740);
 constexpr int preparePause = 250;
 /// The program's sign in the title bar, and between it and the name.
 constexpr int logoSide = 24;
-constexpr int logoGap = 6;
+constexpr int logoGap = 8;
 
 /// The window's own layout, without which there is no window.
 QWidget* loadFrame(Workbench& bench, ZWindow& window) {
@@ -146,12 +149,15 @@ void CMainFrameWnd::connectButtons() {
         else
             showTab(Tab::editor);
     });
+    tabToChosen({&_chinese, &_english});
     onClick("ch_btn", [this] { chooseLanguage(chineseLanguage); });
     onClick("en_btn", [this] { chooseLanguage(englishLanguage); });
 }
 
 void CMainFrameWnd::connectKeys() {
+    qApp->installEventFilter(this);
     const auto onKey = [this](const QKeySequence& keys, auto action) {
+        _keys.insert(keys);
         connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
     };
     const auto onStart = [this](void (CMainFrameWnd::*action)()) {
@@ -183,6 +189,19 @@ void CMainFrameWnd::connectKeys() {
         if (tab() == Tab::start && _start)
             _start->refill();
     });
+}
+
+bool CMainFrameWnd::eventFilter(QObject* watched, QEvent* event) {
+    // A field would keep some of the window's keys for itself: Ctrl+E goes to the end of its line.
+    if (event->type() == QEvent::ShortcutOverride && !hasDialog()) {
+        const auto* widget = qobject_cast<QWidget*>(watched);
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (widget && widget->window() == this && _keys.contains(QKeySequence(key->keyCombination()))) {
+            event->ignore();
+            return true;
+        }
+    }
+    return ZWindow::eventFilter(watched, event);
 }
 
 void CMainFrameWnd::find() {

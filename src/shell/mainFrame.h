@@ -5,6 +5,8 @@
 #include "kit/workbench.h"
 #include "shell/newThemeDialog.h"
 
+#include <QKeySequence>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QTranslator>
@@ -47,6 +49,8 @@ public:
     void openExport();
     /// Chooses a language and writes the choice down.
     void chooseLanguage(int language);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     [[nodiscard]] bool mayClose() override;
@@ -93,6 +97,7 @@ private:
     std::unique_ptr<CEditorPages> _pages;
     std::unique_ptr<DropVeil> _veil;
     QTranslator _qtWords;       ///< Those of the file dialogs.
+    QSet<QKeySequence> _keys;   ///< Of the window.
     bool _problemsCame = false; ///< A list of problems was handed over and is to be shown.
     bool _asksToClose = false;
 };

@@ -184,12 +184,17 @@ void CMainFrameWnd::deleteTheme(const std::string& name) {
 }
 
 void CMainFrameWnd::chooseImport() {
-    QFileDialog dialog(this, Text("kStart_import"));
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setFileMode(QFileDialog::ExistingFiles);
-    dialog.setNameFilter(Text("kStart_import_filter") + " (*.zdt *.ZDT)");
-    if (dialog.exec() == QDialog::Accepted)
-        importPaths(dialog.selectedFiles());
+    QStringList chosen;
+    {
+        QFileDialog dialog(this, Text("kStart_import"));
+        dialog.setOption(QFileDialog::DontUseNativeDialog);
+        dialog.setFileMode(QFileDialog::ExistingFiles);
+        dialog.setNameFilter(Text("kStart_import_filter") + " (*.zdt *.ZDT)");
+        if (dialog.exec() == QDialog::Accepted)
+            chosen = dialog.selectedFiles();
+    }
+    if (!chosen.isEmpty())
+        importPaths(chosen);
 }
 
 void CMainFrameWnd::importPaths(const QStringList& paths) {

@@ -40,6 +40,7 @@ CStartPage::CStartPage(Workbench& bench, QWidget* parent)
     , _tabs(control<QStackedWidget>("startTab"))
     , _found(control<QStackedWidget>("themesFound"))
     , _count(control<QLabel>("themeCount"))
+    , _drop(control<QLabel>("dropText"))
     , _order(control<QComboBox>("themeOrder"))
     , _search(control<ZSearchField>("themeSearch"))
     , _view(control<ZFlowView>("MainWelecomeTab"))
@@ -68,6 +69,7 @@ CStartPage::CStartPage(Workbench& bench, QWidget* parent)
         if (_view.current() >= 0)
             emit deleteRequested(QString::fromStdString(_cards.theme(_view.current()).name));
     });
+    _order.setSizeAdjustPolicy(QComboBox::AdjustToContents);
     reload();
 }
 
@@ -127,6 +129,7 @@ void CStartPage::select(const std::string& name) {
 void CStartPage::showFound() {
     _tabs.setCurrentIndex(_cards.themeCount() == 0 ? firstVisitTab : themesTab);
     _found.setCurrentIndex(_cards.count() == 0 ? nothingFound : cardsFound);
+    _drop.setText(Text(_cards.themeCount() == 0 ? "kStart_first_drop" : "kStart_drop"));
     _count.setText(QString::number(_cards.count()));
     _nothing.setTexts(TextWith("kStart_nothing", _search.text().trimmed()), {}, Text("kStart_search_clear"));
 }

@@ -51,6 +51,7 @@ private:
     QStackedWidget& _tabs;
     QStackedWidget& _found;
     QLabel& _count;
+    QLabel& _drop;
     QComboBox& _order;
     ZSearchField& _search;
     ZFlowView& _view;

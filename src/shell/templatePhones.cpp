@@ -24,16 +24,17 @@ struct Phone {
 
 constexpr QSize allPhones(512, 488);
 constexpr int bezel = 8;
-constexpr int outerRadius = 30;
-constexpr int innerRadius = 22;
+/// Small enough to leave the status bar in the pictures whole.
+constexpr int outerRadius = 22;
+constexpr int innerRadius = 14;
 constexpr QColor body(0x1B, 0x1C, 0x1F);
 
 /// A screen of the front phone in the largest window, in logical pixels.
 constexpr QSize largestScreen(320, 640);
 
-const std::array<Phone, 3> phones{{{QRect(0, 56, 200, 400), "preview_widget_0.jpg"},
-                                   {QRect(312, 56, 200, 400), "preview_mms_0.jpg"},
-                                   {QRect(134, 0, 252, 488), "cover.jpg"}}};
+const std::array<Phone, 3> phones{{{QRect(0, 56, 200, 384), "preview_widget_0.jpg"},
+                                   {QRect(312, 56, 200, 384), "preview_mms_0.jpg"},
+                                   {QRect(134, 0, 252, 488), "preview_icons_0.jpg"}}};
 
 } // namespace
 
