@@ -72,6 +72,8 @@ private:
     void enterEditor();
     [[nodiscard]] bool askGeneration(const std::string& name);
     void exportEnded(int result);
+    /// Lets every page read the theme anew, whose values and generation are other ones.
+    void tellThemeChanged();
     void showProblems();
     void showFolder(const std::string& path);
     void showTitle();

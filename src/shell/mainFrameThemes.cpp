@@ -206,8 +206,9 @@ void CMainFrameWnd::openExport() {
         _export = makePageIn<CResEditOutPutDlg>(*_tabs.widget(static_cast<int>(Tab::exporting)), shownPage, _bench);
         if (_export) {
             connect(_export, &CResEditOutPutDlg::done, this, &CMainFrameWnd::exportEnded);
-            connect(_export, &CResEditOutPutDlg::valuesStored, this,
-                    [this] { _bench.notifications().SendNotify(this, notify::Notify_ReloadTopTitleText); });
+            connect(_export, &CResEditOutPutDlg::valuesStored, this, &CMainFrameWnd::tellThemeChanged);
+            connect(_export, &CResEditOutPutDlg::previewsChanged, this,
+                    [this] { _bench.notifications().SendNotify(this, notify::Notify_ReloadDataMsg); });
         }
     }
     showTab(Tab::exporting);
@@ -217,14 +218,18 @@ void CMainFrameWnd::openExport() {
 
 void CMainFrameWnd::exportEnded(int result) {
     showTab(Tab::editor);
-    if (result == 1) {
-        CPaintManagerUI& hub = _bench.notifications();
-        for (const char* name : {notify::Notify_ReloadDataMsg, notify::Notify_ReloadBigorSmall,
-                                 notify::Notify_ReloadTopTitleText, notify::Notify_SetFirstPage})
-            hub.SendNotify(this, name);
+    if (result == CResEditOutPutDlg::ended) {
+        tellThemeChanged();
+        _bench.notifications().SendNotify(this, notify::Notify_SetFirstPage);
     }
     if (std::exchange(_problemsCame, false))
         showProblems();
+}
+
+void CMainFrameWnd::tellThemeChanged() {
+    for (const char* name :
+         {notify::Notify_ReloadDataMsg, notify::Notify_ReloadBigorSmall, notify::Notify_ReloadTopTitleText})
+        _bench.notifications().SendNotify(this, name);
 }
 
 void CMainFrameWnd::chooseFirstLanguage() {
