@@ -135,7 +135,9 @@ void PreviewCard::makeRemove() {
     _remove->setIconSize({14, 14});
     _remove->setFocusPolicy(Qt::StrongFocus);
     _remove->setCursor(Qt::ArrowCursor);
-    _remove->setGeometry(pictureSize.width() - removeSide - 2, 2, removeSide, removeSide);
+    constexpr int distance = 4;
+    const int side = removeSide + distance;
+    _remove->setGeometry(pictureSize.width() - side, pictureSize.height() - side, removeSide, removeSide);
     _remove->hide();
     connect(_remove, &QToolButton::clicked, this, [this] { emit removeAsked(_name); });
 }

@@ -98,7 +98,7 @@ private:
     ZElidedLabel* _label;
     QWidget* _foot;                 ///< The button, or the size of a picture that is drawn.
     QPushButton* _button = nullptr; ///< Null for a picture that is drawn.
-    QToolButton* _remove;           ///< In the corner of the picture.
+    QToolButton* _remove;           ///< In the lower corner of the picture.
     bool _isOwn = false;
     bool _isCurrent = false;
     bool _isHovered = false;
