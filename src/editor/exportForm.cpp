@@ -50,6 +50,17 @@ bool isValidForNine(const std::string& version) {
     return liesWithin(version, first, last);
 }
 
+bool holds(const std::string& name, std::string_view tag) {
+    return name.find(tag) != std::string::npos;
+}
+
+} // namespace
+
+const ExportTarget& exportTarget(unsigned generation) {
+    ZDT_ASSERT(generation < targets.size(), "exportForm");
+    return targets[generation];
+}
+
 std::string_view checkEnglishName(const std::string& text) {
     const std::u32string name = toCodePoints(text);
     if (name.empty())
@@ -60,17 +71,6 @@ std::string_view checkEnglishName(const std::string& text) {
     if (isForeign || holdsForbidden(name, forbiddenInEnglish))
         return exportMessage::forbiddenSign;
     return name.size() > longestEnglishName ? exportMessage::longEnglishName : std::string_view();
-}
-
-bool holds(const std::string& name, std::string_view tag) {
-    return name.find(tag) != std::string::npos;
-}
-
-} // namespace
-
-const ExportTarget& exportTarget(unsigned generation) {
-    ZDT_ASSERT(generation < targets.size(), "exportForm");
-    return targets[generation];
 }
 
 std::string_view checkChineseName(const std::string& text) {

@@ -59,6 +59,9 @@ struct FormProblem {
     std::string_view message; ///< Of `exportMessage`.
 };
 
+/// The key of what is wrong with an English name; empty for a good one.
+[[nodiscard]] std::string_view checkEnglishName(const std::string& name);
+
 /// All that is wrong, in the order in which it is told; at most two things of one field.
 [[nodiscard]] std::vector<FormProblem> exportProblems(const ExportForm& form);
 

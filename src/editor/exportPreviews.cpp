@@ -220,7 +220,7 @@ void ExportPreviews::askRemove(const QString& name) {
     if (_isLocked || !_bench.theme())
         return;
     const std::uint64_t theme = _bench.themeSerial();
-    if (!askYesNo(_page.window(), "kExport_remove_question") || theme != _bench.themeSerial())
+    if (!askYesNo(_page.window(), "kExport_remove_question", {}, true) || theme != _bench.themeSerial())
         return;
     const int code = _bench.theme()->deletePreview(_bench.theme()->getValue(previewKey, name.toStdString()));
     if (code != 0)

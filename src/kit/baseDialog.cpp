@@ -6,6 +6,7 @@
 #include "kit/tokens.h"
 #include "kit/window.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -35,6 +36,7 @@ ZBaseDialog::ZBaseDialog(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
+    setProperty("focusRing", false);
     makeHead();
     makeFoot();
     column->addWidget(_head);
@@ -134,6 +136,9 @@ void ZBaseDialog::setVisible(bool visible) {
             focusNextChild();
         else
             focusWidget()->setFocus();
+        // A dialog with nothing to be chosen keeps the keyboard itself, or what lies below would have it.
+        if (!isAncestorOf(QApplication::focusWidget()))
+            setFocus();
     }
     if (!visible)
         leaveHost();

@@ -11,7 +11,9 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStyle>
@@ -109,6 +111,11 @@ void setButtonIcon(QAbstractButton* button, Icon which, int size) {
 void polishControls(QWidget* root) {
     for (QAbstractButton* button : root->findChildren<QAbstractButton*>())
         iconByName(*button);
+    // What is dropped is the window's: a field would take the address of a file for a text.
+    for (QLineEdit* field : root->findChildren<QLineEdit*>())
+        field->setAcceptDrops(false);
+    for (QPlainTextEdit* field : root->findChildren<QPlainTextEdit*>())
+        field->setAcceptDrops(false);
     // The delegate that combo boxes begin with draws items without the style sheet.
     for (QComboBox* box : root->findChildren<QComboBox*>())
         box->setItemDelegate(new QStyledItemDelegate(box));

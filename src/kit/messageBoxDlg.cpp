@@ -71,6 +71,7 @@ ZMessageBoxDlg::ZMessageBoxDlg(const Message& message, const TextLookup& lookup,
     : ZBaseDialog(parent) {
     setFixedWidth(boxWidth);
     setTitle(lookup(message.titleKey));
+    setCloseTip(lookup("kWindow_close"));
     const QString text = filled(lookup(message.textKey), message.arguments);
     setAccessibleDescription(text);
     const Sign sign = signOf(message.kind);

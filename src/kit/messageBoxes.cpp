@@ -22,10 +22,11 @@ void tellNote(QWidget* parent, const QString& textKey, const QStringList& argume
     ZMessageBoxDlg::tell(message(kind, textKey, arguments), Text, parent);
 }
 
-bool askYesNo(QWidget* parent, const QString& textKey, const QStringList& arguments) {
+bool askYesNo(QWidget* parent, const QString& textKey, const QStringList& arguments, bool refusesByDefault) {
     ZMessageBoxDlg::Message question = message(ZMessageBoxDlg::Kind::Question, textKey, arguments);
     question.acceptKey = "kWindow_yes";
     question.rejectKey = "kWindow_no";
+    question.rejectByDefault = refusesByDefault;
     return ZMessageBoxDlg::ask(question, Text, parent);
 }
 

@@ -14,7 +14,8 @@ namespace zdt {
 void tellNote(QWidget* parent, const QString& textKey, const QStringList& arguments = {},
               ZMessageBoxDlg::Kind kind = ZMessageBoxDlg::Kind::Warning);
 
-/// Asks for a yes or no; Enter is yes.
-[[nodiscard]] bool askYesNo(QWidget* parent, const QString& textKey, const QStringList& arguments = {});
+/// Asks for a yes or no. Enter is yes, or no with `refusesByDefault`: for what can't be undone.
+[[nodiscard]] bool askYesNo(QWidget* parent, const QString& textKey, const QStringList& arguments = {},
+                            bool refusesByDefault = false);
 
 } // namespace zdt

@@ -96,6 +96,10 @@ bool Scrim::eventFilter(QObject* watched, QEvent* event) {
         return false;
     // Another dialog over this one lies outside too, and its keys are not ours to take: only the top one judges.
     case QEvent::Shortcut:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::InputMethod:
+    case QEvent::ContextMenu:
         return isOutside(watched) && isTop();
     case QEvent::FocusIn:
         if (isOutside(watched) && isTop())

@@ -16,6 +16,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QLockFile>
 #include <QScreen>
 #include <QStandardPaths>
@@ -37,6 +38,25 @@ QString lockPath() {
     if (folder.isEmpty())
         folder = QDir::tempPath();
     return QDir(folder).filePath(lockName);
+}
+
+/// False while another designer holds the lock. One that can't be made at all keeps nobody from working.
+bool takeLock(QLockFile& lock) {
+    if (lock.tryLock() || lock.error() != QLockFile::LockFailedError)
+        return true;
+    qint64 process = 0;
+    QString host;
+    QString program;
+    if (lock.getLockInfo(&process, &host, &program))
+        return false;
+    // A full disk or a power cut leaves a file that nobody's name stands in.
+    QFile::remove(lock.fileName());
+    return lock.tryLock() || lock.error() != QLockFile::LockFailedError;
+}
+
+bool hasScreen() {
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
 QStringList skinFolders() {
@@ -65,7 +85,9 @@ void tellOfSkin(const QStringList& faults, QWidget* window) {
                 text.isEmpty() ? "Parts of the program's skin are missing or damaged. Install the program again" : text;
             return said + ":\n" + faults.join("\n");
         }
-        return text.isEmpty() && key == "kConfirm" ? QString("OK") : text;
+        if (!text.isEmpty())
+            return text;
+        return key == "kConfirm" ? QString("OK") : key == "kWindow_name" ? QString("zdtTool") : QString();
     };
     ZMessageBoxDlg::tell(message, lookup, window);
 }
@@ -101,9 +123,13 @@ int runWindow(QApplication& application, const std::function<void(CMainFrameWnd&
 int runDesigner(int argc, char* argv[]) {
     QLockFile lock(lockPath());
     lock.setStaleLockTime(0); // Held as long as its process lives, however long that is.
-    if (!lock.tryLock() && lock.error() == QLockFile::LockFailedError)
+    if (!takeLock(lock))
         return 0;
     installCrashHandler();
+    if (!hasScreen()) {
+        std::fputs("zdtheme-designer: there is no display; set DISPLAY\n", stderr);
+        return 1;
+    }
     endProcessesOf(phoneHelper());
     int code = 1;
     if (!enterWorkspace()) {

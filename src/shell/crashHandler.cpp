@@ -117,9 +117,13 @@ void installCrashHandler() {
     // The first call loads a library, which a handler must not.
     std::array<void*, 1> frame{};
     static_cast<void>(::backtrace(frame.data(), 1));
+    // A stack that ran over has no room for a handler.
+    static std::array<char, 65536> ownStack;
+    const stack_t stack{ownStack.data(), 0, ownStack.size()};
+    ::sigaltstack(&stack, nullptr);
     struct sigaction action {};
     action.sa_handler = handleCrash;
-    action.sa_flags = static_cast<int>(SA_RESETHAND | SA_NODEFER);
+    action.sa_flags = static_cast<int>(SA_RESETHAND | SA_NODEFER | SA_ONSTACK);
     for (const int signal : crashes)
         ::sigaction(signal, &action, nullptr);
 }

@@ -2,6 +2,7 @@
 
 #include "support/files.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -10,6 +11,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 namespace zdt {
@@ -20,7 +22,11 @@ namespace {
 std::string programOf(const std::string& process) {
     std::vector<char> path(PATH_MAX);
     const ssize_t length = ::readlink(("/proc/" + process + "/exe").c_str(), path.data(), path.size());
-    return length > 0 ? std::string(path.data(), static_cast<std::size_t>(length)) : std::string();
+    std::string program(path.data(), length > 0 ? static_cast<std::size_t>(length) : 0);
+    constexpr std::string_view replaced = " (deleted)"; // Its file was replaced while it ran.
+    if (program.ends_with(replaced))
+        program.resize(program.size() - replaced.size());
+    return program;
 }
 
 bool isProcess(const std::string& name) {
@@ -35,6 +41,10 @@ std::string resolved(const std::string& path) {
 } // namespace
 
 int endProcessesOf(const std::string& program) {
+    struct stat status {};
+    // A link shows where it leads to, and what runs there isn't ours alone.
+    if (::lstat(program.c_str(), &status) != 0 || S_ISLNK(status.st_mode))
+        return 0;
     const std::string full = resolved(program);
     if (full.empty())
         return 0;

@@ -4,8 +4,8 @@
 
 namespace zdt {
 
-/// Ends every running process whose program is `program`, by its full path with links followed. One of the same name
-/// from anywhere else is left alone.
+/// Ends every running process whose program is `program`, by its full path with the links of its folders followed. One
+/// of the same name from anywhere else is left alone, and so is all if `program` itself is a link.
 /// @return how many were told to end
 int endProcessesOf(const std::string& program);
 

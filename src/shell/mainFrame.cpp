@@ -70,6 +70,8 @@ CMainFrameWnd::CMainFrameWnd(Workbench& bench)
     , _english(FindControl<QAbstractButton>(this, "en_btn"))
     , _pages(std::make_unique<CEditorPages>(bench, this))
     , _veil(std::make_unique<DropVeil>(this)) {
+    if (_tabs.count() <= static_cast<int>(Tab::about) || _titles.count() <= static_cast<int>(Tab::about))
+        throw LayoutError("skin.xml: MainFrameTab and titleTabs need a page each for start, editor, export and about");
     setWindowTitle("zdtTool");
     setWindowIcon(programIcon());
     setMinimumSize(smallestWindow);
@@ -202,7 +204,8 @@ void CMainFrameWnd::showTab(Tab tab) {
     if (page->isAncestorOf(focusWidget()))
         return;
     for (QWidget* next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain()) {
-        if (page->isAncestorOf(next) && next->isVisible() && (next->focusPolicy() & Qt::TabFocus)) {
+        if (page->isAncestorOf(next) && next->isVisible() && next->isEnabled() &&
+            (next->focusPolicy() & Qt::TabFocus)) {
             next->setFocus();
             return;
         }
@@ -243,7 +246,10 @@ void CMainFrameWnd::Notify(const Notification& message) {
     } else if (message.name == notify::Notify_SetFirstPage) {
         _pages->showFirst();
     } else if (message.name == notify::Notify_Error_List_Msg) {
-        _problemsCame = true;
+        // The export page is left first.
+        _problemsCame = tab() == Tab::exporting;
+        if (!_problemsCame)
+            showProblems();
     }
 }
 

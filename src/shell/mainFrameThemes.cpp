@@ -18,7 +18,7 @@
 #include "support/files.h"
 
 #include <QAbstractButton>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QLabel>
@@ -29,6 +29,9 @@
 #include <QStackedWidget>
 #include <QUrl>
 
+#include <algorithm>
+#include <map>
+#include <optional>
 #include <stdexcept>
 #include <utility>
 
@@ -65,22 +68,24 @@ void CMainFrameWnd::newTheme() {
 
 void CMainFrameWnd::createTheme(const ThemeWish& wanted) {
     _bench.closeTheme();
-    std::unique_ptr<ThemeResource> made;
     const bool isChinese = GetLanguage() == chineseLanguage;
-    static_cast<void>(ZProgressDialog(Text("kStart_creating"), this).run([&](const Progress&) {
-        made = ThemeResource::createTheme(wanted.name, wanted.generation, wanted.small ? 1 : 0, false, isChinese,
-                                          _bench.root());
-        if (made && !wanted.chineseName.empty())
-            made->setValues({}, {{"title-cn", wanted.chineseName}});
-        return made && made->setValues({}, {{"title", wanted.name}}).size() == 1 && made->applyNode({});
-    }));
-    // Its settings, its kind above all, are on disk as soon as it is closed.
-    made.reset();
-    if (!isFolder(_bench.root() + "res/" + wanted.name)) {
+    const auto make = [&](const Progress&) {
+        const auto made = ThemeResource::createTheme(wanted.name, wanted.generation, wanted.small ? 1 : 0, false,
+                                                     isChinese, _bench.root());
+        if (!made)
+            return false;
+        std::map<std::string, std::string> names{{"title", wanted.name}};
+        if (!wanted.chineseName.empty())
+            names["title-cn"] = wanted.chineseName;
+        const auto codes = made->setValues({}, names);
+        const bool taken = std::all_of(codes.begin(), codes.end(), [](const auto& code) { return code.second == 0; });
+        // Its settings, its kind above all, are on disk as soon as it is closed.
+        return taken && made->applyNode({});
+    };
+    if (ZProgressDialog(Text("kStart_creating"), this).run(make))
+        openTheme(wanted.name);
+    else
         tellNote(this, "kStart_create_failed");
-        return;
-    }
-    openTheme(wanted.name);
 }
 
 void CMainFrameWnd::openTheme(const std::string& name) {
@@ -115,6 +120,8 @@ bool CMainFrameWnd::askGeneration(const std::string& name) {
     sentence->setWordWrap(true);
     auto* choice = new ZSegmented;
     choice->setObjectName("generationChoice");
+    choice->setAccessibleName(Text("kStart_choose_generation_title"));
+    dialog.setCloseTip(Text("kWindow_close"));
     choice->setLabels({"OVUI5.0", "OVUI8.0", "OVUI9.1"});
     choice->setCurrentIndex(generation9Index);
     dialog.body()->setSpacing(16);
@@ -152,6 +159,10 @@ void CMainFrameWnd::returnToStart() {
     if (_start)
         _start->select(name);
     hub.SendNotify(this, notify::Reload_change_unlock_pendant_ratio);
+    if (!name.empty() && !isFolder(_bench.root() + "res/" + name)) {
+        _bench.closeTheme();
+        tellNote(this, "kStart_gone", {shown(name)});
+    }
 }
 
 void CMainFrameWnd::deleteTheme(const std::string& name) {
@@ -187,10 +198,7 @@ void CMainFrameWnd::importPaths(const QStringList& paths) {
         tellNote(this, "kStart_no_package");
         return;
     }
-    const std::vector<std::string> imported = importThemes(_bench, this, sources);
-    // The theme that was open may have been replaced.
-    if (!_bench.theme() && tab() != Tab::start)
-        returnToStart();
+    const std::vector<std::string> imported = importThemes(_bench, this, sources, [this] { returnToStart(); });
     if (imported.empty())
         return;
     _bench.notifications().SendNotify(this, notify::Reload_history_themes);
@@ -201,9 +209,10 @@ void CMainFrameWnd::importPaths(const QStringList& paths) {
 void CMainFrameWnd::openExport() {
     if (!_bench.theme())
         return;
-    if (!_export) {
+    QWidget* place = _tabs.widget(static_cast<int>(Tab::exporting));
+    if (!place->layout()) {
         QWidget* shownPage = nullptr;
-        _export = makePageIn<CResEditOutPutDlg>(*_tabs.widget(static_cast<int>(Tab::exporting)), shownPage, _bench);
+        _export = makePageIn<CResEditOutPutDlg>(*place, shownPage, _bench);
         if (_export) {
             connect(_export, &CResEditOutPutDlg::done, this, &CMainFrameWnd::exportEnded);
             connect(_export, &CResEditOutPutDlg::valuesStored, this, &CMainFrameWnd::tellThemeChanged);
@@ -211,6 +220,7 @@ void CMainFrameWnd::openExport() {
                     [this] { _bench.notifications().SendNotify(this, notify::Notify_ReloadDataMsg); });
         }
     }
+    _problemsCame = false;
     showTab(Tab::exporting);
     if (_export)
         _export->open();
@@ -236,10 +246,12 @@ void CMainFrameWnd::chooseFirstLanguage() {
     const std::string setting = languageSetting(loadConfig());
     const std::optional<int> chosen =
         languageAtStart(setting, isSimplifiedChinese(QLocale::system().name().toStdString()));
-    if (chosen)
+    if (chosen) {
         chooseLanguage(*chosen);
-    else
+    } else {
         SetLanguage(GetLanguage());
+        takeQtWords(GetLanguage());
+    }
     _chinese.setChecked(GetLanguage() == chineseLanguage);
     _english.setChecked(GetLanguage() == englishLanguage);
 }
@@ -270,7 +282,7 @@ void CMainFrameWnd::chooseLanguage(int language) {
 
 void CMainFrameWnd::dragEnterEvent(QDragEnterEvent* event) {
     const QStringList paths = localPaths(*event->mimeData());
-    if (hasDialog() || paths.isEmpty())
+    if (hasDialog() || QApplication::activeModalWidget() || paths.isEmpty())
         return;
     event->acceptProposedAction();
     if (!importableAmong(paths).empty())

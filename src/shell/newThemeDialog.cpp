@@ -127,10 +127,9 @@ void CNewThemeDialog::say(const Field& field, Says how, const QString& textKey) 
 }
 
 bool CNewThemeDialog::checkName() {
-    const NameProblem problem = checkThemeName(chosen().name, _taken);
-    const bool isFine = problem == NameProblem::none;
-    say(_name, isFine ? Says::fine : Says::error, key(nameProblemKey(problem)));
-    return isFine;
+    const std::string_view problem = newNameProblem(chosen().name, _taken);
+    say(_name, problem.empty() ? Says::fine : Says::error, problem.empty() ? "kNew_name_free" : key(problem));
+    return problem.empty();
 }
 
 bool CNewThemeDialog::checkChinese() {

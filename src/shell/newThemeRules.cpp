@@ -18,10 +18,10 @@ std::string freeThemeName(std::string_view name, const std::vector<std::string>&
     return free;
 }
 
-std::string_view nameProblemKey(NameProblem problem) {
-    switch (problem) {
+std::string_view newNameProblem(const std::string& name, const std::vector<std::string>& taken) {
+    switch (checkThemeName(name, taken)) {
     case NameProblem::none:
-        return "kNew_name_free";
+        break;
     case NameProblem::empty:
         return "kNew_name_empty";
     case NameProblem::taken:
@@ -33,7 +33,8 @@ std::string_view nameProblemKey(NameProblem problem) {
     case NameProblem::tooLong:
         return "kNew_name_long";
     }
-    return {};
+    const std::string_view problem = checkEnglishName(name);
+    return problem.empty() ? std::string_view() : shortMessage({ExportField::englishName, problem});
 }
 
 std::string_view chineseNameKey(std::string_view exportProblem) {

@@ -16,8 +16,9 @@ inline constexpr std::string_view offeredThemeName = "My theme";
 /// `name`, or the first of "name 2", "name 3", … that isn't taken, whatever the case of ASCII letters.
 [[nodiscard]] std::string freeThemeName(std::string_view name, const std::vector<std::string>& taken);
 
-/// The key of what is said of a name below its field.
-[[nodiscard]] std::string_view nameProblemKey(NameProblem problem);
+/// The key of what is wrong with a new theme's name; empty for a good one. It names a folder and is the English name
+/// in a package, so that the rules of both hold.
+[[nodiscard]] std::string_view newNameProblem(const std::string& name, const std::vector<std::string>& taken);
 
 /// The same of a Chinese name, for a result of `checkChineseName`; shorter than on the export page.
 [[nodiscard]] std::string_view chineseNameKey(std::string_view exportProblem);

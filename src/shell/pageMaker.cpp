@@ -3,6 +3,8 @@
 #include "kit/emptyState.h"
 #include "kit/localisation.h"
 
+#include <QLabel>
+
 namespace zdt {
 
 QWidget* brokenPage(const QString& why) {
@@ -10,6 +12,7 @@ QWidget* brokenPage(const QString& why) {
     page->setObjectName("brokenPage");
     page->setIcon("broken_image");
     page->setTexts(Text("kWindow_page_missing"), why);
+    page->findChild<QLabel*>("emptyTitle")->setProperty("textKey", "kWindow_page_missing");
     return page;
 }
 

@@ -1,6 +1,7 @@
 #include "shell/skinCheck.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -14,9 +15,18 @@ constexpr std::array<const char*, 11> skinFiles{"skin.xml",    "start.xml",    "
                                                 "export.xml",  "problems.xml", "fullList.xml", "style.qss",
                                                 "English.ini", "Chinese.ini",  "Key.ini"};
 
-bool stands(const QString& path) {
-    const QFileInfo file(path);
-    return file.isFile() && file.isReadable() && file.size() > 0;
+/// What a file that nothing else can tell to be whole ends with; a layout is told when it is read.
+QByteArray endMark(const QString& path) {
+    return path.endsWith(".qss") ? "/* end */" : path.endsWith(".ini") ? "# end" : "";
+}
+
+bool isWhole(const QString& path) {
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly) || file.size() == 0)
+        return false;
+    constexpr qint64 tail = 64;
+    file.seek(std::max<qint64>(0, file.size() - tail));
+    return file.readAll().trimmed().endsWith(endMark(path));
 }
 
 } // namespace
@@ -25,7 +35,7 @@ QStringList missingSkinFiles(const QStringList& folders) {
     QStringList missing;
     for (const char* name : skinFiles) {
         const bool found = std::any_of(folders.begin(), folders.end(),
-                                       [&](const QString& folder) { return stands(QDir(folder).filePath(name)); });
+                                       [&](const QString& folder) { return isWhole(QDir(folder).filePath(name)); });
         if (!found)
             missing += name;
     }

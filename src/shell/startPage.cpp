@@ -71,6 +71,10 @@ CStartPage::CStartPage(Workbench& bench, QWidget* parent)
     reload();
 }
 
+CStartPage::~CStartPage() {
+    _view.setSource(nullptr);
+}
+
 void CStartPage::makeSteps() {
     for (std::size_t step = 0; step < stepIcons.size(); ++step)
         control<QLabel>(QString("step%1Icon").arg(step + 1))
@@ -106,11 +110,15 @@ void CStartPage::refill() {
     const std::string name = current >= 0 ? _cards.theme(current).name : std::string();
     _cards.setThemes(
         readThemeCards(bench().root(), _order.currentIndex() == 1 ? ThemeOrder::byName : ThemeOrder::byChange));
-    select(name);
+    if (_cards.indexOf(name) >= 0)
+        select(name);
     showFound();
 }
 
 void CStartPage::select(const std::string& name) {
+    // A theme that just came is to be seen, whatever was searched for.
+    if (_cards.isThere(name) && _cards.indexOf(name) < 0)
+        _search.clear();
     const int index = _cards.indexOf(name);
     if (index >= 0)
         _view.setCurrent(index);

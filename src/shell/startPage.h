@@ -21,6 +21,7 @@ class CStartPage : public ZPage {
 
 public:
     CStartPage(Workbench& bench, QWidget* parent);
+    ~CStartPage() override;
 
     /// Hears `Reload_history_themes` as well.
     void Notify(const Notification& message) override;

@@ -57,6 +57,10 @@ void ThemeCards::find() {
     emit reset();
 }
 
+bool ThemeCards::isThere(const std::string& name) const {
+    return std::any_of(_themes.begin(), _themes.end(), [&](const ThemeCard& card) { return card.name == name; });
+}
+
 int ThemeCards::indexOf(const std::string& name) const {
     const auto found =
         std::find_if(_found.begin(), _found.end(), [&](std::size_t index) { return _themes[index].name == name; });

@@ -27,6 +27,8 @@ public:
 
     [[nodiscard]] std::size_t themeCount() const { return _themes.size(); }
     [[nodiscard]] const ThemeCard& theme(int index) const { return _themes[_found[static_cast<std::size_t>(index)]]; }
+    /// Whether there is a theme of that name, found or not.
+    [[nodiscard]] bool isThere(const std::string& name) const;
     /// Where a theme's card is; -1 if it isn't among the found ones.
     [[nodiscard]] int indexOf(const std::string& name) const;
 

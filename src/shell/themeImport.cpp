@@ -17,6 +17,9 @@ namespace zdt {
 
 namespace {
 
+/// What is replaced can't be brought back.
+constexpr bool refusesByDefault = true;
+
 struct Job {
     std::string source;
     ImportPlan plan;
@@ -54,14 +57,15 @@ bool importOne(const Job& job, const std::string& root, const Progress& progress
                                 : ThemeResource::importTheme(job.source, name, root, nullptr, progress);
 }
 
-/// Takes those that may not replace what is there out of the jobs. Nothing is left after a refusal.
+/// Takes those that may not replace what is there out of the jobs. False if that leaves none.
 bool settle(std::vector<Job>& jobs, QWidget* window) {
     const auto asks = [](const Job& job) { return job.plan.step == ImportPlan::Step::ask; };
     const auto standing = std::count_if(jobs.begin(), jobs.end(), asks);
     if (standing == 0)
         return true;
-    const bool replace = jobs.size() == 1 ? askYesNo(window, words(jobs.front().plan.messageKey))
-                                          : askYesNo(window, "kStart_replace_many", {QString::number(standing)});
+    const bool replace = jobs.size() == 1
+                             ? askYesNo(window, words(jobs.front().plan.messageKey), {}, refusesByDefault)
+                             : askYesNo(window, "kStart_replace_many", {QString::number(standing)}, refusesByDefault);
     if (!replace)
         std::erase_if(jobs, asks);
     return !jobs.empty();
@@ -102,27 +106,31 @@ std::vector<std::string> importableAmong(const QStringList& paths) {
     return found;
 }
 
-std::vector<std::string> importThemes(Workbench& bench, QWidget* window, const std::vector<std::string>& sources) {
-    const std::vector<std::string> themes = ThemeResource::listThemes(bench.root());
+std::vector<std::string> importThemes(Workbench& bench, QWidget* window, const std::vector<std::string>& sources,
+                                      const std::function<void()>& leaveTheme) {
+    // One of a name that stands in the same import is asked about like one that stands in the store.
+    std::vector<std::string> themes = ThemeResource::listThemes(bench.root());
     std::vector<Job> jobs;
-    std::size_t refused = 0;
     for (const std::string& source : sources) {
-        Job job{source, planOf(source, themes)};
-        if (job.plan.step != ImportPlan::Step::refuse) {
-            jobs.push_back(std::move(job));
-        } else if (++refused; sources.size() == 1) {
-            tellNote(window, words(job.plan.messageKey));
-            return {};
-        }
+        const ImportPlan plan = planOf(source, themes);
+        if (plan.step == ImportPlan::Step::refuse && sources.size() == 1)
+            tellNote(window, words(plan.messageKey));
+        if (plan.step == ImportPlan::Step::refuse)
+            continue;
+        themes.push_back(plan.name);
+        jobs.push_back({source, plan});
     }
-    if (!settle(jobs, window))
+    const bool allRefused = jobs.empty();
+    if (!settle(jobs, window) || (allRefused && sources.size() == 1))
         return {};
     const bool touchesOpen = bench.theme() && std::any_of(jobs.begin(), jobs.end(), [&](const Job& job) {
                                  return job.plan.name == bench.theme()->name();
                              });
-    if (touchesOpen)
+    if (touchesOpen) {
+        leaveTheme();
         bench.closeTheme();
-    std::vector<std::string> imported = work(jobs, bench.root(), window);
+    }
+    std::vector<std::string> imported = jobs.empty() ? std::vector<std::string>() : work(jobs, bench.root(), window);
     const bool all = imported.size() == sources.size();
     const auto kind = all ? ZMessageBoxDlg::Kind::Success : ZMessageBoxDlg::Kind::Warning;
     if (sources.size() == 1)

@@ -126,6 +126,8 @@ bool ThemeResource::saveSettings() {
     const std::string path = settingsFile(_rootDirectory, _name);
     if (settings == _savedSettings && pathExists(path))
         return true;
+    if (!isFolder(themeFolder(_rootDirectory, _name))) // Removed by another; it gets no settings anew.
+        return false;
     if (!makePath(path) || !writeKeyValueFile(path, settings, Flush::toDisk))
         return false;
     _savedSettings = std::move(settings);

@@ -298,6 +298,9 @@ public:
     [[nodiscard]] std::set<ResNode*> checkDynamicIcons() const;
 
 private:
+    /// Leaves the time of a change on the theme's folder, by which a list tells how old it is. A file deep in it
+    /// doesn't.
+    void noteChange() const;
     ThemeResource(std::string root, std::string name, TypeMask mask);
 
     /// The copy is made aside, so that a full disk or a killed process leaves no half theme.

@@ -66,12 +66,18 @@ ResNode* ThemeResource::findNthNode(const KeyPath& keyPath, int n) const {
     return namesake;
 }
 
+void ThemeResource::noteChange() const {
+    touchFolder(themeFolder(_rootDirectory, _name));
+}
+
 int ThemeResource::setLeaf(ResNode* leaf, const std::string& value) {
     if (!leaf)
         return returnCode::notFound;
     const int code = leaf->setValue(value);
-    if (code == returnCode::success)
+    if (code == returnCode::success) {
         refreshTwins(*leaf);
+        noteChange();
+    }
     return code;
 }
 
@@ -110,7 +116,10 @@ std::map<std::string, int> ThemeResource::setValues(const KeyPath& keyPath,
 
 bool ThemeResource::applyNode(const KeyPath& keyPath) {
     ResNode* block = node(keyPath);
-    return block && block->save(true);
+    const bool saved = block && block->save(true);
+    if (saved)
+        noteChange();
+    return saved;
 }
 
 std::map<std::string, std::string> ThemeResource::childValues(const KeyPath& keyPath) const {
@@ -146,6 +155,7 @@ int ThemeResource::clearFile(const KeyPath& keyPath) {
         return returnCode::cannotRemove;
     found->clearValue();
     refreshTwins(*found);
+    noteChange();
     return returnCode::success;
 }
 

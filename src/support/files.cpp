@@ -220,6 +220,10 @@ bool isInside(const std::string& path, const std::string& folder) {
     return std::mismatch(outer.begin(), outer.end(), inner.begin(), inner.end()).first == outer.end();
 }
 
+void touchFolder(const std::string& path) {
+    static_cast<void>(::utimensat(AT_FDCWD, path.c_str(), nullptr, 0));
+}
+
 std::string programDirectory() {
     std::error_code error;
     return parentPath(fs::read_symlink("/proc/self/exe", error).string()) + "/";

@@ -94,6 +94,9 @@ struct FolderEntry {
 /// Whether a path lies in a folder, links in it followed. Neither needs to exist.
 [[nodiscard]] bool isInside(const std::string& path, const std::string& folder);
 
+/// Notes on a folder that something in it was changed now. Best effort.
+void touchFolder(const std::string& path);
+
 /// The folder of the running program, with a trailing "/": both programs stand there with the templates beside them.
 [[nodiscard]] std::string programDirectory();
 

@@ -93,6 +93,28 @@ TEST_F(DialogTest, MessageBoxAnswersToKeysAndClicks) {
     }
 }
 
+TEST_F(DialogTest, NoKeyReachesWhatLiesUnderAWork) {
+    field->setFocus();
+    ZProgressDialog progress("Working", &window);
+    EXPECT_TRUE(progress.run([&](const Progress&) {
+        for (const Qt::Key key : {Qt::Key_A, Qt::Key_Return, Qt::Key_Space, Qt::Key_Escape}) {
+            QMetaObject::invokeMethod(
+                &window,
+                [&] {
+                    EXPECT_FALSE(field->hasFocus());
+                    QTest::keyClick(QApplication::focusWidget(), key);
+                    QTest::keyClick(field, key);
+                    QTest::keyClick(page, key);
+                },
+                Qt::BlockingQueuedConnection);
+        }
+        return true;
+    }));
+    EXPECT_EQ(field->text(), "");
+    EXPECT_EQ(pageClicks, 0);
+    EXPECT_TRUE(field->hasFocus());
+}
+
 TEST_F(DialogTest, MessageShowsArgumentsAsTheyAre) {
     auto message = question();
     message.arguments = QStringList{"%2 <b>", "two"};

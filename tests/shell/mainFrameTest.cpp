@@ -12,13 +12,18 @@
 #include "shell/templatePhones.h"
 #include "shell/themeImport.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QStackedWidget>
 #include <QTest>
 
+#include <array>
 #include <functional>
 
 namespace zdt {
@@ -240,6 +245,56 @@ TEST_F(MainFrameTest, SeveralPackagesAndFoldersHaveOneQuestionAndOneResult) {
               QStringList({"1 of these themes exist already. Replace them?", "Themes imported: 3. Not imported: 1"}));
     EXPECT_EQ(themes(), (std::vector<std::string>{"A folder v1.0", "One", "ToPack", "Two"}));
     EXPECT_TRUE(test::problemsOf(*store.open("A folder v1.0")).empty());
+}
+
+TEST_F(MainFrameTest, OfOneNameTheSecondIsAskedAboutAndBadNamesAreCounted) {
+    const QString one = package("Twice");
+    ASSERT_TRUE(QDir(QString::fromStdString(outside.path())).mkdir("other"));
+    const QString other = QString::fromStdString(outside.path("other/Twice.zdt"));
+    ASSERT_TRUE(QFile::copy(one, other));
+    EXPECT_EQ(during(
+                  [&] {
+                      window().importPaths({one, other});
+                  },
+                  "messageReject"),
+              QStringList({"1 of these themes exist already. Replace them?", "Themes imported: 1. Not imported: 1"}));
+    const QStringList bad{QString::fromStdString(outside.write("a*b.zdt", "zip")),
+                          QString::fromStdString(outside.write("c?d.zdt", "zip"))};
+    EXPECT_EQ(during([&] { window().importPaths(bad); }), QStringList{"Themes imported: 0. Not imported: 2"});
+}
+
+TEST_F(MainFrameTest, AThemeThatVanishedIsClosedOnTheWayBackAndGetsNoSettings) {
+    store.create("Aurora").reset();
+    window().openTheme("Aurora");
+    ASSERT_TRUE(QDir(QString::fromStdString(store.path("res/Aurora"))).removeRecursively());
+    ASSERT_TRUE(QFile::remove(QString::fromStdString(store.path("config/Aurora_config.txt"))));
+    EXPECT_EQ(during([&] { click("ThemePreviewBackBtn"); }),
+              QStringList{"The folder of “Aurora” isn't there any more"});
+    EXPECT_FALSE(bench.theme());
+    EXPECT_FALSE(QFile::exists(QString::fromStdString(store.path("config/Aurora_config.txt"))));
+}
+
+TEST_F(MainFrameTest, KeysLeadToThePagesAndTheEditedThemeComesFirst) {
+    for (const char* name : {"Aurora", "Dunes"}) {
+        store.create(name).reset();
+        const std::string folder = std::string("res/") + name;
+        for (const std::string& path : {folder, folder + "/preview", folder + "/preview/cover.jpg",
+                                        std::string("config/") + name + "_config.txt"}) {
+            const std::array<timespec, 2> longAgo{{{1000, 0}, {1000, 0}}};
+            ASSERT_EQ(::utimensat(AT_FDCWD, store.path(path).c_str(), longAgo.data(), 0), 0);
+        }
+    }
+    window().openTheme("Dunes");
+    EXPECT_EQ(bench.theme()->setValue({"mms", "text"}, "black", "#102030"), 0);
+    QTest::keyClick(&window(), Qt::Key_P, Qt::ControlModifier);
+    EXPECT_TRUE(find("ResGlobleErrorBtn").isChecked());
+    QTest::keyClick(&window(), Qt::Key_E, Qt::ControlModifier);
+    EXPECT_EQ(tab(), 2);
+    QTest::keyClick(&window(), Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(tab(), 1);
+    QTest::keyClick(&window(), Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(tab(), 0);
+    EXPECT_TRUE(cards().cellAt(0)->accessibleName().startsWith("Dunes"));
 }
 
 TEST_F(MainFrameTest, ClosingAsksWhileAThemeIsShown) {

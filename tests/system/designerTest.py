@@ -42,6 +42,10 @@ class DesignerTest(unittest.TestCase):
         shutil.copytree(SKIN, os.path.join(self.program, "skin"))
 
     def start(self):
+        # Signs of this start alone.
+        for path in (self.lock_path(), self.config_path()):
+            if os.path.exists(path) and not self.lock_held:
+                os.remove(path)
         environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", XDG_RUNTIME_DIR=self.runtime)
         process = subprocess.Popen([os.path.join(self.program, "zdtheme-designer")], env=environment, cwd="/",
                                    stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
@@ -59,18 +63,25 @@ class DesignerTest(unittest.TestCase):
             self.assertLess(time.monotonic(), until, what)
             time.sleep(0.02)
 
-    def lock(self):
-        return os.path.exists(os.path.join(self.runtime, "CSZDDesigne"))
+    lock_held = False
 
-    def runs(self, process):
-        """Whether it took the lock, wrote the language that it chose, and still runs a while later."""
-        self.wait_for(lambda: self.lock() or process.poll() is not None, "no lock")
+    def lock_path(self):
+        return os.path.join(self.runtime, "CSZDDesigne")
+
+    def config_path(self):
+        return os.path.join(self.program, "skin", "ZDThemeDesign", "config.ini")
+
+    def runs(self, process, writes_language=True):
+        """Whether it took the lock, wrote down the language that its window chose, and still runs a while later."""
+        sign = self.config_path() if writes_language else self.lock_path()
+        self.wait_for(lambda: os.path.exists(sign) or process.poll() is not None, "no sign of a start")
         time.sleep(0.5)
         return process.poll() is None
 
     def test_a_second_start_ends_quietly_and_leaves_the_first_alone(self):
         first = self.start()
         self.assertTrue(self.runs(first))
+        self.lock_held = True
         second = self.start()
         output, errors = second.communicate(timeout=STARTED)
         self.assertEqual((second.returncode, output, errors), (0, "", ""))
@@ -82,8 +93,9 @@ class DesignerTest(unittest.TestCase):
             self.assertTrue(self.runs(process))
             process.send_signal(number)
             self.assertEqual(process.wait(STARTED), -number)
+            time.sleep(1)  # Dumps are named by the second.
         dumps = [name for name in os.listdir(self.program) if name.endswith(".dmp")]
-        self.assertTrue(dumps)
+        self.assertEqual(len(dumps), 2)
         for name in dumps:
             self.assertRegex(name, r"^\d{4}\.\d\d\.\d\d_\d\d\.\d\d\.\d\d\.dmp$")
         self.assertTrue(self.runs(self.start()))
@@ -97,18 +109,24 @@ class DesignerTest(unittest.TestCase):
                    "cut": lambda path, data: write(path, data[:len(data) // 2]),
                    "noise": lambda path, data: write(path, os.urandom(4096))}
         for kind, damage in damages.items():
-            for name in ("skin.xml", "start.xml", "style.qss", "English.ini", "Key.ini", "config.ini"):
+            for name in ("skin.xml", "start.xml", "style.qss", "English.ini", "Key.ini"):
                 with self.subTest(kind=kind, name=name):
                     path = os.path.join(skin, name)
                     damage(path, whole[name])
                     process = self.start()
-                    self.assertTrue(self.runs(process))
+                    self.assertTrue(self.runs(process, name != "skin.xml"))
                     process.kill()
                     errors = process.communicate()[1]
                     if name == "skin.xml":
                         self.assertIn("skin.xml", errors)
                     write(path, whole[name])
         shutil.rmtree(os.path.join(self.program, "skin"))
+        self.assertTrue(self.runs(self.start(), False))
+
+    def test_a_lock_that_nobody_holds_is_taken(self):
+        self.lock_held = True  # It is left as it is.
+        write(self.lock_path(), b"")
+        os.remove(self.config_path())
         self.assertTrue(self.runs(self.start()))
 
 
