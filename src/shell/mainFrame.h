@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kit/fileChoice.h"
 #include "kit/notifications.h"
 #include "kit/window.h"
 #include "kit/workbench.h"
@@ -94,6 +95,7 @@ private:
     CResEditOutPutDlg* _export = nullptr;
     std::unique_ptr<CEditorPages> _pages;
     std::unique_ptr<DropVeil> _veil;
+    FileChoice _importChoice{QStandardPaths::DownloadLocation};
     QTranslator _qtWords;       ///< Those of the file dialogs.
     bool _problemsCame = false; ///< A list of problems was handed over and is to be shown.
     bool _asksToClose = false;

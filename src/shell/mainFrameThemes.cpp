@@ -20,7 +20,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDragEnterEvent>
-#include <QFileDialog>
 #include <QLabel>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -184,12 +183,10 @@ void CMainFrameWnd::deleteTheme(const std::string& name) {
 }
 
 void CMainFrameWnd::chooseImport() {
-    QFileDialog dialog(this, Text("kStart_import"));
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setFileMode(QFileDialog::ExistingFiles);
-    dialog.setNameFilter(Text("kStart_import_filter") + " (*.zdt *.ZDT)");
-    if (dialog.exec() == QDialog::Accepted)
-        importPaths(dialog.selectedFiles());
+    const QString filter = Text("kStart_import_filter") + " (*.zdt *.ZDT)";
+    const QStringList chosen = _importChoice.files(this, Text("kStart_import"), filter);
+    if (!chosen.isEmpty())
+        importPaths(chosen);
 }
 
 void CMainFrameWnd::importPaths(const QStringList& paths) {

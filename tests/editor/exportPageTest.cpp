@@ -152,6 +152,8 @@ TEST_F(ExportPageTest, ChecksWhileTypingAndKeepsItThroughAChangeOfLanguage) {
 
 TEST_F(ExportPageTest, WritesThePackageAndShowsItsFolder) {
     openGood();
+    find<QPlainTextEdit>("ResOutDlgSummary").setPlainText("😀");
+    EXPECT_EQ(find<QLabel>("summaryCount").text(), "Characters: 1");
     find<QPlainTextEdit>("ResOutDlgSummary").setPlainText("A text");
     pressOk({"messageOpenFolder"});
     EXPECT_EQ(said, QStringList{Text("kWarn_popout_sucess")});
