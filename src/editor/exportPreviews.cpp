@@ -86,16 +86,16 @@ std::vector<RenderTarget> ExportPreviews::targets() const {
 }
 
 void ExportPreviews::queue(std::function<void()> start) {
-    _waiting.push_back(std::move(start));
+    _waiting.push_back({_bench.themeSerial(), std::move(start)});
     startNext();
 }
 
 void ExportPreviews::startNext() {
     while (!_work.isBusy() && !_waiting.empty()) {
-        const std::function<void()> start = std::move(_waiting.front());
+        const Waiting next = std::move(_waiting.front());
         _waiting.pop_front();
-        if (_bench.theme())
-            start();
+        if (_bench.theme() && next.theme == _bench.themeSerial())
+            next.start();
     }
 }
 
@@ -112,12 +112,12 @@ void ExportPreviews::refresh() {
         return clear();
     _madeCount = -1;
     list();
-    if (!std::exchange(_drawingWaits, true))
+    if (std::exchange(_drawingWaits, _bench.themeSerial()) != _bench.themeSerial())
         queue([this] { startDrawing(); });
 }
 
 void ExportPreviews::startDrawing() {
-    _drawingWaits = false;
+    _drawingWaits = 0;
     const std::shared_ptr<QTemporaryDir> folder = workPlace();
     const std::string source = _bench.theme()->getValue(previewKey, unlockPreview);
     run([this, folder, source, wanted = targets()] {
@@ -140,7 +140,7 @@ void ExportPreviews::finish() {
 void ExportPreviews::drop() {
     ++_round;
     _waiting.clear();
-    _drawingWaits = false;
+    _drawingWaits = 0;
 }
 
 void ExportPreviews::clear() {

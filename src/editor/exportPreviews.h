@@ -71,6 +71,11 @@ signals:
 private:
     /// What a work leads to, done on the interface thread.
     using Result = std::function<void()>;
+    /// What begins once the work before it is done.
+    struct Waiting {
+        std::uint64_t theme; ///< Its serial.
+        std::function<void()> start;
+    };
 
     void queue(std::function<void()> start);
     void startNext();
@@ -101,9 +106,9 @@ private:
     bool _hasChanged = false;
     std::uint64_t _listed = 0; ///< The serial of the theme whose pictures are shown.
     unsigned _round = 0;       ///< Grows when work is let go.
-    std::deque<std::function<void()>> _waiting;
-    bool _drawingWaits = false;
-    int _madeCount = -1; ///< Of the last drawing; -1 before the first.
+    std::deque<Waiting> _waiting;
+    std::uint64_t _drawingWaits = 0; ///< The serial of the theme for which a drawing waits; 0 for none.
+    int _madeCount = -1;             ///< Of the last drawing; -1 before the first.
     int _targetCount = 0;
     Background<Result> _work;
 };

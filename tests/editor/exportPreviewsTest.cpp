@@ -1,5 +1,6 @@
 #include "editor/exportPageFixture.h"
 #include "editor/previewCard.h"
+#include "editor/stateLine.h"
 #include "kit/notificationNames.h"
 
 #include <QAbstractButton>
@@ -85,11 +86,15 @@ TEST_F(ExportPreviewsTest, WorkReachesNoOtherThemeAndNoneThatWasLeft) {
     const std::string before = previewBytes("preview_mms_0.jpg");
     const auto replace = [&] { page->previews().replace("preview_mms_0.jpg", QString::fromStdString(own)); };
     replace();
+    replace(); // Waits behind the first.
+    page->previews().refresh();
     bench.closeTheme();
     bench.takeTheme(store.open("Aurora"));
     page->previews().finish();
     EXPECT_EQ(previewBytes("preview_mms_0.jpg"), before) << "opened again";
     page->open();
+    page->previews().finish();
+    EXPECT_EQ(find<StateLine>("previewsDrawn").text(), "Done, 0 failed");
     replace();
     page->hide();
     page->previews().finish();
