@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/assertion.h"
+
 #include <QObject>
 
 #include <functional>
@@ -24,25 +26,34 @@ public:
 
     [[nodiscard]] bool isBusy() const { return _future.valid(); }
 
-    /// Begins a work; one that is under way is ended first, and its result delivered.
+    /// Begins a work. None may be under way.
     void start(Work work, Deliver deliver) {
-        finish();
+        ZDT_ASSERT(!isBusy(), "background");
         _deliver = std::move(deliver);
         ++_serial;
         _future = std::async(std::launch::async, [this, serial = _serial, work = std::move(work)] {
-            Result result = work();
-            QMetaObject::invokeMethod(
-                &_receiver, [this, serial] { collect(serial); }, Qt::QueuedConnection);
-            return result;
-        });
+                      Result result = work();
+                      QMetaObject::invokeMethod(
+                          &_receiver, [this, serial] { collect(serial); }, Qt::QueuedConnection);
+                      return result;
+                  }).share();
+    }
+
+    /// What waits for the work that is under way, on another thread than the interface's.
+    [[nodiscard]] std::function<void()> waiter() const {
+        return [future = _future] {
+            if (future.valid())
+                future.wait();
+        };
     }
 
     /// Waits for the work that is under way, and delivers its result now.
     void finish() {
         if (!_future.valid())
             return;
+        const std::shared_future<Result> future = std::exchange(_future, {});
         const Deliver deliver = std::exchange(_deliver, nullptr);
-        deliver(_future.get());
+        deliver(future.get());
     }
 
 private:
@@ -54,7 +65,7 @@ private:
     QObject _receiver; ///< What is queued for it goes with it; outlives the future, which waits.
     Deliver _deliver;
     unsigned _serial = 0;
-    std::future<Result> _future;
+    std::shared_future<Result> _future;
 };
 
 } // namespace zdt

@@ -4,7 +4,9 @@
 #include "editor/stateLine.h"
 #include "kit/controlSearch.h"
 #include "kit/kitStyle.h"
+#include "kit/layoutError.h"
 #include "kit/localisation.h"
+#include "support/text.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -101,7 +103,9 @@ void ExportFields::keepWidth() {
     // The scroll bar lies in the padding, so that no field becomes narrower when it comes.
     auto& area = FindControl<QScrollArea>(&_page, "exportFormScroll");
     QScrollBar* bar = area.verticalScrollBar();
-    QLayout* form = area.widget()->layout();
+    QLayout* form = area.widget() ? area.widget()->layout() : nullptr;
+    if (!form)
+        throw LayoutError("\"exportFormScroll\" holds no widget with a layout");
     const QMargins margins = form->contentsMargins();
     connect(bar, &QScrollBar::rangeChanged, form, [bar, form, margins](int first, int last) {
         const int barWidth = last > first ? bar->sizeHint().width() : 0;
@@ -149,11 +153,34 @@ void ExportFields::fill(const ExportForm& form, bool hasVideoLock) {
     _targets->setExclusive(true);
     if (form.generation)
         _targets->button(static_cast<int>(*form.generation))->setChecked(true);
+    setVideoLock(hasVideoLock);
+    _checkSoon.stop();
+    retell();
+}
+
+void ExportFields::setVideoLock(bool hasVideoLock) {
     QAbstractButton* oldest = _targets->button(0);
     oldest->setEnabled(!hasVideoLock);
     oldest->setProperty("toolTipKey", hasVideoLock ? "kExport_no_video" : "kExport_help_target");
-    _checkSoon.stop();
-    retell();
+    if (!hasVideoLock || !oldest->isChecked())
+        return;
+    _targets->setExclusive(false);
+    oldest->setChecked(false);
+    _targets->setExclusive(true);
+    sayTarget();
+    check();
+}
+
+bool ExportFields::isInVersion() const {
+    return _page.window()->focusWidget() == &_version;
+}
+
+void ExportFields::setAsking(bool isAsking) {
+    if (isAsking)
+        _wasInVersion = isInVersion();
+    _isAsking = isAsking;
+    if (!isAsking && _wasInVersion && !isInVersion())
+        leaveVersion();
 }
 
 ExportForm ExportFields::form() const {
@@ -229,7 +256,7 @@ void ExportFields::sayTarget() {
 }
 
 void ExportFields::sayCount() {
-    _count.setText(TextWith("kExport_characters", static_cast<int>(_summary.toPlainText().size())));
+    _count.setText(TextWith("kExport_characters", static_cast<int>(toCodePoints(form().summary).size())));
 }
 
 void ExportFields::retell() {

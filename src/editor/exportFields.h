@@ -37,8 +37,10 @@ public:
     void focus(ExportField field);
     /// Marks what is wrong at once.
     void check();
-    /// While a box is shown, that the version's field is left says nothing.
-    void setAsking(bool isAsking) { _isAsking = isAsking; }
+    /// Whether the lock screen is a video, for which the oldest target can't be chosen; what is typed stays.
+    void setVideoLock(bool hasVideoLock);
+    /// While a box is shown, that the version's field is left says nothing; that it doesn't come back afterwards does.
+    void setAsking(bool isAsking);
 
 signals:
     /// Something was typed and is checked.
@@ -60,6 +62,7 @@ private:
     void addHelp(const QString& field, const QString& key);
     void chooseTarget(unsigned generation);
     void leaveVersion();
+    [[nodiscard]] bool isInVersion() const;
     void sayTarget();
     void sayCount();
     [[nodiscard]] Field& fieldOf(ExportField field) { return _fields[static_cast<std::size_t>(field)]; }
@@ -78,6 +81,7 @@ private:
     std::array<Field, exportFieldCount> _fields;
     QTimer _checkSoon;
     bool _isAsking = false;
+    bool _wasInVersion = false; ///< Before the box.
 };
 
 } // namespace zdt

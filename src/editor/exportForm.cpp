@@ -44,6 +44,12 @@ bool liesWithin(const std::string& version, int first, int last) {
     return number && *number >= first && *number <= last;
 }
 
+bool isValidForNine(const std::string& version) {
+    constexpr int first = 100;
+    constexpr int last = 1000; // One more than leaving the field allows.
+    return liesWithin(version, first, last);
+}
+
 bool holds(const std::string& name, std::string_view tag) {
     return name.find(tag) != std::string::npos;
 }
@@ -75,8 +81,6 @@ std::string_view checkChineseName(const std::string& text) {
 }
 
 std::vector<FormProblem> exportProblems(const ExportForm& form) {
-    constexpr int firstVersion = 100;
-    constexpr int lastVersion = 1000; // One more than leaving the field allows.
     std::vector<FormProblem> problems;
     const auto add = [&](ExportField field, std::string_view message) {
         if (!message.empty())
@@ -86,8 +90,7 @@ std::vector<FormProblem> exportProblems(const ExportForm& form) {
         add(field, isWrong ? message : std::string_view());
     };
     const bool isNinth = form.generation == generation9;
-    addIf(isNinth && !liesWithin(form.themeVersion, firstVersion, lastVersion), ExportField::themeVersion,
-          exportMessage::badThemeVersion);
+    addIf(isNinth && !isValidForNine(form.themeVersion), ExportField::themeVersion, exportMessage::badThemeVersion);
     add(ExportField::englishName, checkEnglishName(form.englishName));
     addIf(form.chineseName.empty(), ExportField::chineseName, exportMessage::emptyChineseName);
     addIf(form.developer.empty(), ExportField::developer, exportMessage::emptyDeveloper);
@@ -145,7 +148,7 @@ std::string versionWhenLeft(const std::string& version, unsigned generation) {
 }
 
 std::string versionForTarget(const std::string& version, unsigned generation) {
-    const bool isValid = numberOf(version) && versionWhenLeft(version, generation) == version;
+    const bool isValid = generation == generation9 ? isValidForNine(version) : numberOf(version).has_value();
     return isValid ? version : std::string(exportTarget(generation).defaultVersion);
 }
 

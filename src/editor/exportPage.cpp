@@ -4,17 +4,18 @@
 #include "editor/previewCard.h"
 #include "editor/stateLine.h"
 #include "kit/localisation.h"
-#include "kit/messageBoxDlg.h"
+#include "kit/messageBoxes.h"
 #include "kit/notificationNames.h"
 #include "kit/progressDialog.h"
+#include "store/themeLayout.h"
 #include "support/files.h"
 
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QHideEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QStandardPaths>
 #include <QUrl>
 
 namespace zdt {
@@ -56,8 +57,7 @@ CResEditOutPutDlg::CResEditOutPutDlg(Workbench& bench, QWidget* parent)
     , _previews(bench, *this)
     , _size(control<QLabel>("ResOutDlgSize"))
     , _openPoints(control<StateLine>("ResOutDlgOpenPoints"))
-    , _ok(control<QPushButton>("ResOutDlgOKBtn"))
-    , _folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {
+    , _ok(control<QPushButton>("ResOutDlgOKBtn")) {
     connect(&_ok, &QPushButton::clicked, this, &CResEditOutPutDlg::tryExport);
     connect(&_fields, &ExportFields::confirmed, this, &CResEditOutPutDlg::tryExport);
     connect(&_fields, &ExportFields::checked, this, &CResEditOutPutDlg::sayFoot);
@@ -80,10 +80,19 @@ void CResEditOutPutDlg::open() {
 }
 
 void CResEditOutPutDlg::close() {
+    if (_previews.takeChanged())
+        emit previewsChanged();
     emit done(closed);
 }
 
+void CResEditOutPutDlg::hideEvent(QHideEvent* event) {
+    ZPage::hideEvent(event);
+    if (!event->spontaneous()) // A window that is only put away keeps its page.
+        _previews.drop();
+}
+
 void CResEditOutPutDlg::reload() {
+    _fields.setVideoLock(theme() && hasVideoLock(*theme()));
     _fields.retell();
     _previews.retell();
     sayFoot();
@@ -91,6 +100,10 @@ void CResEditOutPutDlg::reload() {
 
 void CResEditOutPutDlg::Notify(const Notification& message) {
     ZPage::Notify(message);
+    if (message.name == notify::Notify_ChangeTheme) {
+        _previews.drop();
+        static_cast<void>(_previews.takeChanged());
+    }
     if (!theme() || _isExporting)
         return;
     if (message.name == notify::Add_Multi_Wallpaper_Notify && isVisible()) {
@@ -109,17 +122,22 @@ void CResEditOutPutDlg::tryExport() {
     if (!theme() || _isExporting)
         return;
     const QScopedValueRollback exporting(_isExporting, true);
+    _exported = bench().themeSerial();
     _fields.setAsking(true);
-    _previews.finish();
+    _previews.setLocked(true);
     Outcome outcome = Outcome::stopped;
-    if (isFormRight() && storeValues()) {
+    // What was begun fits the generation that the theme has now.
+    if (isFormRight() && finishPreviews() && storeValues()) {
         outcome = writePackage();
         if (outcome == Outcome::stopped)
             emit valuesStored();
     }
+    _previews.setLocked(false);
     _fields.setAsking(false);
-    if (outcome != Outcome::stopped)
-        emit done(ended);
+    if (outcome == Outcome::stopped || !isThemeOpen())
+        return;
+    static_cast<void>(_previews.takeChanged());
+    emit done(ended);
 }
 
 bool CResEditOutPutDlg::isFormRight() {
@@ -132,13 +150,17 @@ bool CResEditOutPutDlg::isFormRight() {
     return false;
 }
 
+bool CResEditOutPutDlg::finishPreviews() {
+    _previews.finish();
+    return isThemeOpen();
+}
+
 bool CResEditOutPutDlg::storeValues() {
     const unsigned before = theme()->version();
     const bool isStored = storeExportValues(*theme(), _fields.form());
     const bool isMoved = theme()->version() != before;
     if (isMoved) // Other sizes are asked for, and other previews shown.
         _previews.refresh();
-    _previews.finish();
     if (!isStored)
         warn("kExport_not_stored");
     if (!isStored && isMoved)
@@ -146,27 +168,41 @@ bool CResEditOutPutDlg::storeValues() {
     return isStored;
 }
 
+QString CResEditOutPutDlg::askFolder() {
+    for (;;) {
+        QString folder = folderChoice.folder(window(), Text("kExport_choose_folder"));
+        if (folder.isEmpty() || !isThemeOpen())
+            return {};
+        if (!isStorePath(bench().root(), packagePath(folder.toStdString(), _fields.form())))
+            return folder;
+        warn("kExport_store_folder");
+    }
+}
+
 CResEditOutPutDlg::Outcome CResEditOutPutDlg::writePackage() {
-    const QString folder = chooseFolder(window(), _folder);
-    if (folder.isEmpty())
+    const QString folder = askFolder();
+    if (folder.isEmpty() || !isThemeOpen())
         return Outcome::stopped;
-    _folder = folder;
-    const std::string path = packagePath(folder.toStdString(), _fields.form());
-    const QString shown = QString::fromStdString(path);
-    if (!mayWriteTo(shown))
+    const QString path = QString::fromStdString(packagePath(folder.toStdString(), _fields.form()));
+    if (!mayWriteTo(path))
         return Outcome::stopped;
+    return finishPreviews() ? checkAndWrite(path) : Outcome::stopped;
+}
+
+CResEditOutPutDlg::Outcome CResEditOutPutDlg::checkAndWrite(const QString& path) {
     std::vector<Problem> problems;
     if (!theme()->checkFiles(problems)) {
         warn("kWarn_export_theme_error");
-        bench().notifications().SendNotify(this, notify::Notify_Error_List_Msg, 0,
-                                           reinterpret_cast<std::intptr_t>(&problems));
+        if (isThemeOpen())
+            bench().notifications().SendNotify(this, notify::Notify_Error_List_Msg, 0,
+                                               reinterpret_cast<std::intptr_t>(&problems));
         return Outcome::incomplete;
     }
-    if (!runExport(path)) {
+    if (!runExport(path.toStdString())) {
         warn("kWarn_popout_failed");
         return Outcome::stopped;
     }
-    tellSuccess(shown);
+    tellSuccess(path);
     return Outcome::written;
 }
 
@@ -205,7 +241,7 @@ void CResEditOutPutDlg::tellSuccess(const QString& path) {
 }
 
 void CResEditOutPutDlg::warn(const QString& key) {
-    Box::tell({Box::Kind::Warning, "kDialog_Title_Waning_Info", key, {}, "kConfirm", {}, false}, Text, window());
+    tellNote(window(), key);
 }
 
 void CResEditOutPutDlg::countProblems() {

@@ -5,20 +5,20 @@
 #include "editor/stateLine.h"
 #include "kit/controlSearch.h"
 #include "kit/localisation.h"
-#include "kit/messageBoxDlg.h"
+#include "kit/messageBoxes.h"
+#include "kit/progressDialog.h"
 #include "kit/workbench.h"
 #include "model/fileResNode.h"
 #include "model/template.h"
 #include "store/themeLayout.h"
 #include "support/files.h"
 
-#include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QStandardPaths>
 
 #include <algorithm>
+#include <optional>
 
 namespace zdt {
 
@@ -53,19 +53,19 @@ ExportPreviews::ExportPreviews(Workbench& bench, QWidget& page)
     , _page(page)
     , _board(new PreviewBoard)
     , _ready(FindControl<QLabel>(&page, "previewsReady"))
-    , _drawn(FindControl<StateLine>(&page, "previewsDrawn"))
-    , _lastFolder(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation)) {
+    , _drawn(FindControl<StateLine>(&page, "previewsDrawn")) {
     FindControl<QScrollArea>(&page, "ResEditOutPutThemeList").setWidget(_board);
-    connect(_board, &PreviewBoard::replaceAsked, this, &ExportPreviews::askReplace);
-    connect(_board, &PreviewBoard::filesDropped, this, &ExportPreviews::takeFiles);
-    connect(&FindControl<QPushButton>(&page, "drawPreviews"), &QPushButton::clicked, this, &ExportPreviews::refresh);
-    connect(&_pictures, &PreviewPictures::measured, this, &ExportPreviews::measured);
-    connect(&_pictures, &PreviewPictures::ready, this, [this](const QString& name, const QImage& picture, bool isOwn) {
-        if (PreviewCard* card = _board->card(name)) {
-            card->setPicture(picture);
-            card->setOwn(isOwn);
-        }
+    // What asks waits until the card is done with its mouse and its drop: the answer may take the card away, and the
+    // program that a file comes from waits.
+    connect(_board, &PreviewBoard::replaceAsked, this, &ExportPreviews::askReplace, Qt::QueuedConnection);
+    connect(_board, &PreviewBoard::removeAsked, this, &ExportPreviews::askRemove, Qt::QueuedConnection);
+    connect(_board, &PreviewBoard::filesDropped, this, &ExportPreviews::takeFiles, Qt::QueuedConnection);
+    connect(&FindControl<QPushButton>(&page, "drawPreviews"), &QPushButton::clicked, this, [this] {
+        if (!_isLocked)
+            refresh();
     });
+    connect(&_pictures, &PreviewPictures::measured, this, &ExportPreviews::measured);
+    connect(&_pictures, &PreviewPictures::ready, this, &ExportPreviews::showPicture);
 }
 
 ExportPreviews::~ExportPreviews() = default;
@@ -85,24 +85,62 @@ std::vector<RenderTarget> ExportPreviews::targets() const {
     return targets;
 }
 
+void ExportPreviews::queue(std::function<void()> start) {
+    _waiting.push_back({_bench.themeSerial(), std::move(start)});
+    startNext();
+}
+
+void ExportPreviews::startNext() {
+    while (!_work.isBusy() && !_waiting.empty()) {
+        const Waiting next = std::move(_waiting.front());
+        _waiting.pop_front();
+        if (_bench.theme() && next.theme == _bench.themeSerial())
+            next.start();
+    }
+}
+
+void ExportPreviews::run(std::function<Result()> work) {
+    _work.start(std::move(work), [this, round = _round, theme = _bench.themeSerial()](const Result& result) {
+        if (round == _round && theme == _bench.themeSerial())
+            result();
+        startNext();
+    });
+}
+
 void ExportPreviews::refresh() {
-    finish();
     if (!_bench.theme())
         return clear();
     _madeCount = -1;
     list();
+    if (std::exchange(_drawingWaits, _bench.themeSerial()) != _bench.themeSerial())
+        queue([this] { startDrawing(); });
+}
+
+void ExportPreviews::startDrawing() {
+    _drawingWaits = 0;
     const std::shared_ptr<QTemporaryDir> folder = workPlace();
     const std::string source = _bench.theme()->getValue(previewKey, unlockPreview);
-    _drawing.start(
-        [folder, source, wanted = targets(), theme = _bench.theme()->name()] {
-            return Drawing{renderPreviews(source, wanted, folderPath(*folder)), folder, theme};
-        },
-        [this](const Drawing& drawing) { storeDrawing(drawing); });
+    run([this, folder, source, wanted = targets()] {
+        // The folder stays until its pictures are stored.
+        return
+            [this, folder, pictures = renderPreviews(source, wanted, folderPath(*folder))] { storeDrawing(pictures); };
+    });
 }
 
 void ExportPreviews::finish() {
-    _upload.finish();
-    _drawing.finish();
+    while (_work.isBusy()) {
+        ZProgressDialog progress(Text("kExport_drawing"), _page.window());
+        static_cast<void>(progress.run([wait = _work.waiter()](const Progress&) {
+            wait();
+            return true;
+        }));
+    }
+}
+
+void ExportPreviews::drop() {
+    ++_round;
+    _waiting.clear();
+    _drawingWaits = 0;
 }
 
 void ExportPreviews::clear() {
@@ -112,22 +150,23 @@ void ExportPreviews::clear() {
     retell();
 }
 
-void ExportPreviews::storeDrawing(const Drawing& drawing) {
-    ThemeResource* theme = _bench.theme();
-    if (!theme || theme->name() != drawing.theme)
-        return;
-    _targetCount = static_cast<int>(drawing.pictures.size());
+void ExportPreviews::storeDrawing(const std::vector<RenderedPicture>& pictures) {
+    _targetCount = static_cast<int>(pictures.size());
     _madeCount = 0;
-    for (const RenderedPicture& picture : drawing.pictures) {
-        const bool isStored =
-            picture.isMade && (picture.file.empty() || theme->setValue(previewKey, picture.name, picture.file) == 0);
-        _madeCount += isStored;
+    for (const RenderedPicture& picture : pictures) {
+        const bool isNew = picture.isMade && !picture.file.empty();
+        const bool isStored = isNew && _bench.theme()->setValue(previewKey, picture.name, picture.file) == 0;
+        _madeCount += isNew ? isStored : picture.isMade;
+        _hasChanged = _hasChanged || isStored;
     }
     list();
     emit changed();
 }
 
 void ExportPreviews::list() {
+    // Of another theme nothing stays, not even until its pictures are read.
+    if (std::exchange(_listed, _bench.themeSerial()) != _bench.themeSerial())
+        _board->setSections({});
     const ThemeResource& theme = *_bench.theme();
     _board->setSections(previewSections(theme.childPairs(previewKey), theme.version(), hasReducedPreviews(theme)));
     readPictures();
@@ -157,53 +196,88 @@ void ExportPreviews::readPictures() {
     }
 }
 
-void ExportPreviews::askReplace(const QString& name) {
-    const QString file = choosePicture(_page.window(), _lastFolder);
-    if (file.isEmpty())
+void ExportPreviews::showPicture(const QString& name, const QImage& picture, bool isOwn) {
+    PreviewCard* card = _board->card(name);
+    if (!card)
         return;
-    _lastFolder = QFileInfo(file).path();
-    replace(name, file);
+    const std::optional<NumberedPreview> numbered = numberedPreview(name.toStdString());
+    card->setPicture(picture);
+    card->setOwn(isOwn);
+    card->setRemovable(isOwn && numbered && numbered->number > 0);
+}
+
+void ExportPreviews::askReplace(const QString& name) {
+    if (_isLocked || !_bench.theme())
+        return;
+    const std::uint64_t theme = _bench.themeSerial();
+    const QString filter = Text("kExport_pictures_filter") + " (*.jpg *.png)";
+    const QString file = pictureChoice.file(_page.window(), Text("replace_picture_file"), filter);
+    if (!file.isEmpty() && theme == _bench.themeSerial())
+        replace(name, file);
+}
+
+void ExportPreviews::askRemove(const QString& name) {
+    if (_isLocked || !_bench.theme())
+        return;
+    const std::uint64_t theme = _bench.themeSerial();
+    if (!askYesNo(_page.window(), "kExport_remove_question", {}, true) || theme != _bench.themeSerial())
+        return;
+    const int code = _bench.theme()->deletePreview(_bench.theme()->getValue(previewKey, name.toStdString()));
+    if (code != 0)
+        return tellNote(_page.window(), "kProblem_" + QString::number(-code));
+    _hasChanged = true;
+    list();
+    emit changed();
 }
 
 void ExportPreviews::takeFiles(const QString& name, const QStringList& files) {
+    if (_isLocked)
+        return;
     if (files.size() == 1)
         replace(name, files.front());
     else
-        warn("kExport_drop_one");
+        tellNote(_page.window(), "kExport_drop_one");
 }
 
 void ExportPreviews::takeDropped(const QStringList& files) {
-    if (files.isEmpty())
+    if (files.isEmpty() || _isLocked)
         return;
     if (_board->current().isEmpty())
-        return warn("kExport_drop_where");
+        return tellNote(_page.window(), "kExport_drop_where");
     takeFiles(_board->current(), files);
 }
 
 void ExportPreviews::replace(const QString& name, const QString& file) {
-    finish();
-    const ThemeResource* theme = _bench.theme();
-    if (!theme)
-        return;
-    const PreviewTarget target{name.toStdString(), isTall(*theme)};
-    const std::shared_ptr<QTemporaryDir> folder = workPlace();
-    _upload.start(
-        [name, target, folder, path = file.toStdString(), themeName = theme->name()] {
-            return Upload{name, preparePreview(path, target, folderPath(*folder)), folder, themeName};
-        },
-        [this](const Upload& upload) { storeUpload(upload); });
+    if (!_isLocked && _bench.theme())
+        queue([this, name, file] { startUpload(name, file); });
 }
 
-void ExportPreviews::storeUpload(const Upload& upload) {
-    ThemeResource* theme = _bench.theme();
-    if (!theme || theme->name() != upload.theme)
-        return;
-    if (!upload.prepared.message.empty())
-        return warn(QString::fromStdString(upload.prepared.message));
-    const std::string name = upload.name.toStdString();
-    const int code = theme->setValue(previewKey, name, upload.prepared.file);
+void ExportPreviews::startUpload(const QString& name, const QString& file) {
+    const PreviewTarget target{name.toStdString(), isTall(*_bench.theme())};
+    const std::shared_ptr<QTemporaryDir> folder = workPlace();
+    run([this, name, target, folder, path = file.toStdString()] {
+        return [this, name, folder, prepared = preparePreview(path, target, folderPath(*folder))] {
+            storeUpload(name, prepared);
+        };
+    });
+}
+
+int ExportPreviews::storePicture(const std::string& name, const std::string& file) {
+    ThemeResource& theme = *_bench.theme();
+    const std::optional<NumberedPreview> numbered = numberedPreview(name);
+    if (theme.findLeaf(previewKey, name) || !numbered)
+        return theme.setValue(previewKey, name, file);
+    std::string path;
+    return theme.setPreview(file, numbered->prefix, numbered->number, path);
+}
+
+void ExportPreviews::storeUpload(const QString& name, const PreparedPreview& prepared) {
+    if (!prepared.message.empty())
+        return tellNote(_page.window(), QString::fromStdString(prepared.message));
+    const int code = storePicture(name.toStdString(), prepared.file);
     if (code != 0)
-        return warn("kProblem_" + QString::number(-code));
+        return tellNote(_page.window(), "kProblem_" + QString::number(-code));
+    _hasChanged = true;
     if (name == unlockPreview)
         return refresh();
     list();
@@ -221,9 +295,10 @@ int ExportPreviews::readyCount() const {
 void ExportPreviews::sayReady() {
     if (!_bench.theme() || _board->sections().empty())
         return _ready.clear();
-    std::size_t all = 0;
+    std::ptrdiff_t all = 0;
     for (const PreviewSection& section : _board->sections())
-        all += section.pictures.size();
+        all += std::count_if(section.pictures.begin(), section.pictures.end(),
+                             [](const PreviewPicture& picture) { return !picture.isSpare; });
     const QString share = QString("%1/%2").arg(readyCount()).arg(all);
     _ready.setText(TextWith("kExport_ready", share) + ", " + sizeText(uploadSize(isTall(*_bench.theme()))));
 }
@@ -235,18 +310,13 @@ void ExportPreviews::sayDrawn() {
     const QString result = areAllMade
                                ? TextWith("kTransformation_lock_picture_wallpapers_batch_result_suc", 0)
                                : TextWith("kTransformation_lock_picture_time_cut_batch_upload_result", _madeCount);
-    _drawn.tell(areAllMade ? "ok" : "warn", TextWith("kExport_drawing_ended", result));
+    _drawn.tell(areAllMade ? "ok" : "warn", result);
 }
 
 void ExportPreviews::retell() {
     _board->retell();
     sayReady();
     sayDrawn();
-}
-
-void ExportPreviews::warn(const QString& key) {
-    ZMessageBoxDlg::tell({ZMessageBoxDlg::Kind::Warning, "kDialog_Title_Waning_Info", key, {}, "kConfirm", {}, false},
-                         Text, _page.window());
 }
 
 } // namespace zdt

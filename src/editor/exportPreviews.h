@@ -1,16 +1,21 @@
 #pragma once
 
 #include "editor/background.h"
-#include "editor/fileChoice.h"
 #include "editor/previewBoard.h"
 #include "editor/previewPictures.h"
 #include "editor/previewRender.h"
 #include "editor/previewUpload.h"
+#include "kit/fileChoice.h"
 
 #include <QObject>
 #include <QTemporaryDir>
 
+#include <cstdint>
+#include <deque>
+#include <functional>
 #include <memory>
+#include <string>
+#include <utility>
 #include <vector>
 
 class QLabel;
@@ -20,7 +25,10 @@ namespace zdt {
 class StateLine;
 class Workbench;
 
-/// The right half of the export page: the previews of the theme, drawn, listed and replaced.
+/// The right half of the export page: the previews of the theme, drawn, listed, replaced and removed.
+///
+/// Pictures are drawn and made ready one behind another on a thread. What was begun for a theme reaches no other one,
+/// also none of the same name that was opened since.
 class ExportPreviews : public QObject {
     Q_OBJECT
 
@@ -31,8 +39,14 @@ public:
 
     /// Lists the previews, and draws the cover and the small pictures anew. What comes of that is told when it is done.
     void refresh();
-    /// Waits for what is being drawn or stored.
+    /// Waits, behind a dialog, until all that was begun is drawn and stored.
     void finish();
+    /// Lets go of what isn't drawn or stored yet.
+    void drop();
+    /// While it is set, the author can change nothing.
+    void setLocked(bool isLocked) { _isLocked = isLocked; }
+    /// Whether the theme has other previews than at the last call.
+    [[nodiscard]] bool takeChanged() { return std::exchange(_hasChanged, false); }
     /// Forgets the theme that was shown.
     void clear();
     /// Says everything in the present language.
@@ -47,8 +61,7 @@ public:
     /// How many pictures are listed, those that are missing left out.
     [[nodiscard]] int readyCount() const;
 
-    /// What asks for a picture, for tests to answer.
-    ChoosePath choosePicture = zdt::choosePicture;
+    FileChoice pictureChoice{QStandardPaths::PicturesLocation};
 
 signals:
     /// The previews are other ones than before.
@@ -56,27 +69,30 @@ signals:
     void measured(quint64 bytes);
 
 private:
-    struct Drawing {
-        std::vector<RenderedPicture> pictures;
-        std::shared_ptr<QTemporaryDir> folder;
-        std::string theme;
-    };
-    struct Upload {
-        QString name;
-        PreparedPreview prepared;
-        std::shared_ptr<QTemporaryDir> folder;
-        std::string theme;
+    /// What a work leads to, done on the interface thread.
+    using Result = std::function<void()>;
+    /// What begins once the work before it is done.
+    struct Waiting {
+        std::uint64_t theme; ///< Its serial.
+        std::function<void()> start;
     };
 
+    void queue(std::function<void()> start);
+    void startNext();
+    void run(std::function<Result()> work);
+    void startDrawing();
+    void startUpload(const QString& name, const QString& file);
     void list();
     void readPictures();
+    void showPicture(const QString& name, const QImage& picture, bool isOwn);
     void askReplace(const QString& name);
+    void askRemove(const QString& name);
     void takeFiles(const QString& name, const QStringList& files);
-    void storeDrawing(const Drawing& drawing);
-    void storeUpload(const Upload& upload);
+    void storeDrawing(const std::vector<RenderedPicture>& pictures);
+    void storeUpload(const QString& name, const PreparedPreview& prepared);
+    [[nodiscard]] int storePicture(const std::string& name, const std::string& file);
     void sayReady();
     void sayDrawn();
-    void warn(const QString& key);
     [[nodiscard]] std::shared_ptr<QTemporaryDir> workPlace() const;
     [[nodiscard]] std::vector<RenderTarget> targets() const;
 
@@ -86,11 +102,15 @@ private:
     QLabel& _ready;
     StateLine& _drawn;
     PreviewPictures _pictures;
-    QString _lastFolder;
-    int _madeCount = -1; ///< Of the last drawing; -1 before the first.
+    bool _isLocked = false;
+    bool _hasChanged = false;
+    std::uint64_t _listed = 0; ///< The serial of the theme whose pictures are shown.
+    unsigned _round = 0;       ///< Grows when work is let go.
+    std::deque<Waiting> _waiting;
+    std::uint64_t _drawingWaits = 0; ///< The serial of the theme for which a drawing waits; 0 for none.
+    int _madeCount = -1;             ///< Of the last drawing; -1 before the first.
     int _targetCount = 0;
-    Background<Drawing> _drawing;
-    Background<Upload> _upload;
+    Background<Result> _work;
 };
 
 } // namespace zdt

@@ -19,8 +19,8 @@ class ThemeResource;
 /// The path of a package in a folder.
 [[nodiscard]] std::string packagePath(const std::string& folder, const ExportForm& form);
 
-/// Whether the list shows the pictures of no group in the place of the six groups. The store knows of no such mode, and
-/// a package needs the pictures of all groups, so that no theme is shown so.
+/// Whether the list shows the pictures of no group in the place of the six groups: never, as the store reports no theme
+/// to be in such a mode; the predicate is the one place that changes if it does.
 [[nodiscard]] bool hasReducedPreviews(const ThemeResource& theme);
 
 } // namespace zdt

@@ -2,6 +2,7 @@
 
 #include "editor/keyChange.h"
 #include "editor/keyListSource.h"
+#include "kit/fileChoice.h"
 #include "kit/page.h"
 
 #include <QColor>
@@ -42,6 +43,8 @@ public:
     void focusSearch();
 
     void Notify(const Notification& message) override;
+
+    FileChoice fileChoice{QStandardPaths::PicturesLocation};
 
 protected:
     void reload() override;
@@ -118,7 +121,6 @@ private:
     QTimer _detailTimer;  ///< Details follow the row when the keys are let go.
     QTimer _tryTimer;     ///< Colours that are tried are written at most thirty times a second.
     QColor _tried;
-    QString _folder; ///< Where the last file was chosen.
 };
 
 } // namespace zdt

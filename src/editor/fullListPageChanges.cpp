@@ -13,7 +13,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
-#include <QFileDialog>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScrollBar>
@@ -147,12 +146,10 @@ void CFullListPage::replaceByDialog() {
     if (!theme() || !hasCurrent() || !isFile(_table.row(current()).kind))
         return;
     const std::string key = _current;
-    const QString file =
-        QFileDialog::getOpenFileName(this, Text("kList_choose_file"), _folder, nameFilter(_table.row(current())));
+    const QString file = fileChoice.file(this, Text("kList_choose_file"), nameFilter(_table.row(current())));
     const int index = _table.indexOf(key);
     if (file.isEmpty() || index < 0)
         return;
-    _folder = QFileInfo(file).path();
     replaceBy(index, file);
 }
 

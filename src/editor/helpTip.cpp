@@ -55,7 +55,8 @@ void HelpTip::show(QWidget& button, const QString& text) {
 }
 
 void HelpTip::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Return || event->key() == Qt::Key_Space)
+    if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
+        event->key() == Qt::Key_Space)
         close();
     else
         QFrame::keyPressEvent(event);

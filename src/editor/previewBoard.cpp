@@ -62,6 +62,7 @@ PreviewBoard::Group PreviewBoard::makeGroup(const PreviewSection& section) {
     for (const PreviewPicture& picture : section.pictures) {
         auto* card = new PreviewCard(QString::fromStdString(picture.name), section.isDrawn, group.box);
         connect(card, &PreviewCard::replaceAsked, this, &PreviewBoard::replaceAsked);
+        connect(card, &PreviewCard::removeAsked, this, &PreviewBoard::removeAsked);
         connect(card, &PreviewCard::filesDropped, this, &PreviewBoard::filesDropped);
         connect(card, &PreviewCard::touched, this, &PreviewBoard::setCurrent);
         group.cards.push_back(card);
@@ -71,8 +72,12 @@ PreviewBoard::Group PreviewBoard::makeGroup(const PreviewSection& section) {
 }
 
 void PreviewBoard::rebuild() {
-    for (const Group& group : _groups)
-        delete group.box;
+    for (const Group& group : _groups) {
+        // A card may be waiting in a handler of its own; it is found no more, and goes when that is done.
+        group.box->hide();
+        group.box->setParent(nullptr);
+        group.box->deleteLater();
+    }
     _groups.clear();
     for (const PreviewSection& section : _sections)
         _groups.push_back(makeGroup(section));

@@ -29,8 +29,9 @@ public:
     void retell();
 
 signals:
-    void replaceAsked(const QString& name);
-    void filesDropped(const QString& name, const QStringList& files);
+    void replaceAsked(QString name);
+    void removeAsked(QString name);
+    void filesDropped(QString name, const QStringList& files);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

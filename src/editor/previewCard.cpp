@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
+#include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -26,6 +27,7 @@ constexpr int sidePadding = 8;
 constexpr int rowGap = 6;
 constexpr int footHeight = 28;
 constexpr int markHeight = 16;
+constexpr int removeSide = 22;
 
 } // namespace
 
@@ -90,7 +92,8 @@ PreviewCard::PreviewCard(QString name, bool isDrawn, QWidget* parent)
     : QFrame(parent)
     , _name(std::move(name))
     , _view(new PreviewPictureView(this))
-    , _label(new ZElidedLabel(this)) {
+    , _label(new ZElidedLabel(this))
+    , _remove(new QToolButton(_view)) {
     setObjectName("card_" + _name);
     setFixedSize(width, height);
     _label->setProperty("type", "small");
@@ -102,15 +105,12 @@ PreviewCard::PreviewCard(QString name, bool isDrawn, QWidget* parent)
         size->setAlignment(Qt::AlignCenter);
         _foot = size;
     } else {
-        _button = new QPushButton(this);
-        _button->setObjectName("replace_" + _name);
-        _button->setProperty("scale", "small");
-        _button->installEventFilter(this);
-        connect(_button, &QPushButton::clicked, this, [this] { emit replaceAsked(_name); });
+        makeButton();
         _foot = _button;
         setAcceptDrops(true);
         _view->setCursor(Qt::PointingHandCursor);
     }
+    makeRemove();
     _foot->setFixedHeight(footHeight);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(sidePadding, sidePadding, sidePadding, sidePadding);
@@ -118,6 +118,28 @@ PreviewCard::PreviewCard(QString name, bool isDrawn, QWidget* parent)
     column->addWidget(_view, 0, Qt::AlignHCenter);
     column->addWidget(_label);
     column->addWidget(_foot);
+}
+
+void PreviewCard::makeButton() {
+    _button = new QPushButton(this);
+    _button->setObjectName("replace_" + _name);
+    _button->setProperty("scale", "small");
+    _button->installEventFilter(this);
+    connect(_button, &QPushButton::clicked, this, [this] { emit replaceAsked(_name); });
+}
+
+void PreviewCard::makeRemove() {
+    _remove->setObjectName("remove_" + _name);
+    _remove->setProperty("kind", "onPicture");
+    _remove->setIcon(icon(Icon::Close, token::text));
+    _remove->setIconSize({14, 14});
+    _remove->setFocusPolicy(Qt::StrongFocus);
+    _remove->setCursor(Qt::ArrowCursor);
+    constexpr int distance = 4;
+    const int side = removeSide + distance;
+    _remove->setGeometry(pictureSize.width() - side, pictureSize.height() - side, removeSide, removeSide);
+    _remove->hide();
+    connect(_remove, &QToolButton::clicked, this, [this] { emit removeAsked(_name); });
 }
 
 void PreviewCard::setCaption(const QString& caption) {
@@ -133,6 +155,7 @@ void PreviewCard::setSizeText(const QString& text) {
 
 void PreviewCard::setEmpty() {
     _view->setState(PreviewPictureView::State::empty);
+    setRemovable(false);
     retell();
 }
 
@@ -150,6 +173,10 @@ void PreviewCard::setOwn(bool isOwn) {
     retell();
 }
 
+void PreviewCard::setRemovable(bool isRemovable) {
+    _remove->setVisible(isRemovable);
+}
+
 void PreviewCard::retell() {
     _label->setText(_caption);
     _view->setMark(_isOwn ? Text("kExport_own_picture") : QString());
@@ -159,6 +186,8 @@ void PreviewCard::retell() {
     _button->setText(Text(_view->state() == PreviewPictureView::State::empty ? "file_load" : "replace_file"));
     _button->setAccessibleName(_button->text() + ": " + _caption);
     _button->setToolTip(_button->accessibleName());
+    _remove->setToolTip(Text("kExport_remove_preview"));
+    _remove->setAccessibleName(_remove->toolTip() + ": " + _caption);
 }
 
 void PreviewCard::setCurrent(bool isCurrent) {

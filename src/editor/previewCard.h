@@ -6,6 +6,7 @@
 
 class QMimeData;
 class QPushButton;
+class QToolButton;
 
 namespace zdt {
 
@@ -39,6 +40,8 @@ private:
 
 /// A preview of the list: its picture, its name in words, and the button that replaces it or, where there is none, asks
 /// for one. A picture that the program draws has its size in the place of the button. One file may be dropped on it.
+///
+/// What its signals lead to may take the card away, so that they carry their own names and are to be heard queued.
 class PreviewCard : public QFrame {
     Q_OBJECT
 
@@ -48,7 +51,7 @@ public:
     static constexpr int width = 124;
     static constexpr int height = 264;
 
-    /// The picture's file name; also names the controls: `card_…`, `replace_…`.
+    /// The picture's file name; also names the controls: `card_…`, `replace_…`, `remove_…`.
     [[nodiscard]] const QString& name() const { return _name; }
     [[nodiscard]] bool isDrawn() const { return !_button; }
     void setCaption(const QString& caption);
@@ -59,6 +62,8 @@ public:
     /// Null for a file that can't be decoded.
     void setPicture(const QImage& picture);
     void setOwn(bool isOwn);
+    /// Whether the author may take the picture away.
+    void setRemovable(bool isRemovable);
     /// Says its words in the present language.
     void retell();
     /// Whether a file that is dropped on the window is meant for this one.
@@ -66,9 +71,10 @@ public:
     [[nodiscard]] PreviewPictureView& view() const { return *_view; }
 
 signals:
-    void replaceAsked(const QString& name);
-    void filesDropped(const QString& name, const QStringList& files);
-    void touched(const QString& name);
+    void replaceAsked(QString name);
+    void removeAsked(QString name);
+    void filesDropped(QString name, const QStringList& files);
+    void touched(QString name);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -82,6 +88,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void makeButton();
+    void makeRemove();
     void setHovered(bool isHovered);
 
     QString _name;
@@ -90,6 +98,7 @@ private:
     ZElidedLabel* _label;
     QWidget* _foot;                 ///< The button, or the size of a picture that is drawn.
     QPushButton* _button = nullptr; ///< Null for a picture that is drawn.
+    QToolButton* _remove;           ///< In the lower corner of the picture.
     bool _isOwn = false;
     bool _isCurrent = false;
     bool _isHovered = false;

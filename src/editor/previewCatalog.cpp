@@ -2,10 +2,13 @@
 
 #include "editor/exportForm.h"
 #include "model/fileResNode.h"
+#include "model/typeMask.h"
 #include "modules/previewNode.h"
 #include "support/pattern.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 
 namespace zdt {
 
@@ -15,11 +18,19 @@ constexpr std::string_view drawnName = "preview_drawn";
 constexpr std::string_view drawnCaption = "kExport_drawn";
 constexpr std::string_view reducedCaption = "kPreview";
 
-/// The digits of a numbered preview; empty for any other name.
-std::string numberOf(const std::string& name) {
+constexpr std::string_view contactsName = "preview_contacts";
+constexpr std::array moreContacts{"preview_contacts_1.jpg", "preview_contacts_2.jpg"};
+
+/// The module and the digits of a numbered preview; empty for any other name.
+std::vector<std::string> partsOf(const std::string& name) {
     static const Pattern& pattern = Pattern::of(numberedPreviewPattern);
     std::vector<std::string> groups;
-    return pattern.matches(name, groups) ? groups[1] : std::string();
+    return pattern.matches(name, groups) ? groups : std::vector<std::string>();
+}
+
+std::string numberOf(const std::string& name) {
+    const std::vector<std::string> parts = partsOf(name);
+    return parts.empty() ? std::string() : parts[1];
 }
 
 /// "preview_mms_2.jpg" stands before "preview_mms_10.jpg".
@@ -36,12 +47,32 @@ PreviewSection sectionOf(const std::vector<std::pair<std::string, std::string>>&
     for (const std::string& name : names) {
         const auto found =
             std::find_if(pictures.begin(), pictures.end(), [&](const auto& each) { return each.first == name; });
-        section.pictures.push_back({name, found->second});
+        const bool isSpare = found == pictures.end();
+        section.pictures.push_back({name, isSpare ? std::string() : found->second, isSpare});
     }
     return section;
 }
 
+/// With the names of those that a theme of generation 9 may have more.
+std::vector<std::string> withSpare(std::vector<std::string> names, const PreviewGroup& group, unsigned generation) {
+    if (names.empty() || group.name != contactsName || generation != generation9Index)
+        return names;
+    for (const char* more : moreContacts) {
+        if (std::find(names.begin(), names.end(), more) == names.end())
+            names.emplace_back(more);
+    }
+    return names;
+}
+
 } // namespace
+
+std::optional<NumberedPreview> numberedPreview(const std::string& name) {
+    const std::vector<std::string> parts = partsOf(name);
+    unsigned number = 0;
+    if (parts.empty() || std::from_chars(parts[1].data(), parts[1].data() + parts[1].size(), number).ec != std::errc())
+        return std::nullopt;
+    return NumberedPreview{"preview_" + parts[0] + "_", number};
+}
 
 std::vector<PreviewSection> previewSections(const std::vector<std::pair<std::string, std::string>>& pictures,
                                             unsigned generation, bool reduced) {
@@ -63,7 +94,7 @@ std::vector<PreviewSection> previewSections(const std::vector<std::pair<std::str
         return sections;
     }
     for (const PreviewGroup& group : previewGroups())
-        add(previewsOf(group, names, generation), group.name, group.captionKey, false);
+        add(withSpare(previewsOf(group, names, generation), group, generation), group.name, group.captionKey, false);
     std::erase_if(names, [](const std::string& name) { return !isProtectedPreview(name); });
     add(names, drawnName, drawnCaption, true);
     return sections;

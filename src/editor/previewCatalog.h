@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -10,8 +11,9 @@ namespace zdt {
 
 /// A picture of the list.
 struct PreviewPicture {
-    std::string name; ///< Such as "preview_unlock_0.jpg".
-    std::string file; ///< Empty if the theme has none that fits.
+    std::string name;     ///< Such as "preview_unlock_0.jpg".
+    std::string file;     ///< Empty if the theme has none that fits.
+    bool isSpare = false; ///< Not in the theme, which may have one more.
 };
 
 struct PreviewSection {
@@ -21,8 +23,17 @@ struct PreviewSection {
     std::vector<PreviewPicture> pictures;
 };
 
+/// The name of a numbered preview in its parts.
+struct NumberedPreview {
+    std::string prefix; ///< Such as "preview_mms_".
+    unsigned number = 0;
+};
+
+/// Nothing for the name of any other picture.
+[[nodiscard]] std::optional<NumberedPreview> numberedPreview(const std::string& name);
+
 /// The sections that hold a picture: the six groups, and behind them the pictures that the program draws; in the
-/// reduced mode all pictures of no group.
+/// reduced mode all pictures of no group. Generation 9 has places for three pictures of the contacts.
 /// @param pictures name and file of each preview of the theme
 [[nodiscard]] std::vector<PreviewSection>
 previewSections(const std::vector<std::pair<std::string, std::string>>& pictures, unsigned generation, bool reduced);

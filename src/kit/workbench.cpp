@@ -11,6 +11,7 @@ Workbench::Workbench(SkinLoader layouts, std::string root)
 Workbench::~Workbench() = default;
 
 void Workbench::takeTheme(std::unique_ptr<ThemeResource> theme) {
+    ++_themeSerial;
     _theme.reset();
     _theme = std::move(theme);
 }

@@ -4,6 +4,7 @@
 #include "kit/skinLoader.h"
 #include "store/themeResource.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -30,12 +31,16 @@ public:
     /// before, so that there is never more than one.
     void takeTheme(std::unique_ptr<ThemeResource> theme);
     void closeTheme() { takeTheme(nullptr); }
+    /// Another number for each theme that was taken, and for none: what was begun for a theme tells by it whether that
+    /// one is still open. A name doesn't tell, as a theme may be opened again.
+    [[nodiscard]] std::uint64_t themeSerial() const { return _themeSerial; }
 
 private:
     CPaintManagerUI _notifications;
     SkinLoader _layouts;
     std::string _root;
     std::unique_ptr<ThemeResource> _theme;
+    std::uint64_t _themeSerial = 0;
 };
 
 } // namespace zdt

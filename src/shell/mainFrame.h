@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kit/fileChoice.h"
 #include "kit/notifications.h"
 #include "kit/window.h"
 #include "kit/workbench.h"
@@ -76,6 +77,8 @@ private:
     void enterEditor();
     [[nodiscard]] bool askGeneration(const std::string& name);
     void exportEnded(int result);
+    /// Lets every page read the theme anew, whose values and generation are other ones.
+    void tellThemeChanged();
     void showProblems();
     void showFolder(const std::string& path);
     void showTitle();
@@ -96,6 +99,7 @@ private:
     CResEditOutPutDlg* _export = nullptr;
     std::unique_ptr<CEditorPages> _pages;
     std::unique_ptr<DropVeil> _veil;
+    FileChoice _importChoice{QStandardPaths::DownloadLocation};
     QTranslator _qtWords;       ///< Those of the file dialogs.
     QSet<QKeySequence> _keys;   ///< Of the window.
     bool _problemsCame = false; ///< A list of problems was handed over and is to be shown.

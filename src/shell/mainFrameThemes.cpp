@@ -20,7 +20,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDragEnterEvent>
-#include <QFileDialog>
 #include <QLabel>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -184,15 +183,8 @@ void CMainFrameWnd::deleteTheme(const std::string& name) {
 }
 
 void CMainFrameWnd::chooseImport() {
-    QStringList chosen;
-    {
-        QFileDialog dialog(this, Text("kStart_import"));
-        dialog.setOption(QFileDialog::DontUseNativeDialog);
-        dialog.setFileMode(QFileDialog::ExistingFiles);
-        dialog.setNameFilter(Text("kStart_import_filter") + " (*.zdt *.ZDT)");
-        if (dialog.exec() == QDialog::Accepted)
-            chosen = dialog.selectedFiles();
-    }
+    const QString filter = Text("kStart_import_filter") + " (*.zdt *.ZDT)";
+    const QStringList chosen = _importChoice.files(this, Text("kStart_import"), filter);
     if (!chosen.isEmpty())
         importPaths(chosen);
 }
@@ -220,8 +212,9 @@ void CMainFrameWnd::openExport() {
         _export = makePageIn<CResEditOutPutDlg>(*place, shownPage, _bench);
         if (_export) {
             connect(_export, &CResEditOutPutDlg::done, this, &CMainFrameWnd::exportEnded);
-            connect(_export, &CResEditOutPutDlg::valuesStored, this,
-                    [this] { _bench.notifications().SendNotify(this, notify::Notify_ReloadTopTitleText); });
+            connect(_export, &CResEditOutPutDlg::valuesStored, this, &CMainFrameWnd::tellThemeChanged);
+            connect(_export, &CResEditOutPutDlg::previewsChanged, this,
+                    [this] { _bench.notifications().SendNotify(this, notify::Notify_ReloadDataMsg); });
         }
     }
     _problemsCame = false;
@@ -232,14 +225,18 @@ void CMainFrameWnd::openExport() {
 
 void CMainFrameWnd::exportEnded(int result) {
     showTab(Tab::editor);
-    if (result == 1) {
-        CPaintManagerUI& hub = _bench.notifications();
-        for (const char* name : {notify::Notify_ReloadDataMsg, notify::Notify_ReloadBigorSmall,
-                                 notify::Notify_ReloadTopTitleText, notify::Notify_SetFirstPage})
-            hub.SendNotify(this, name);
+    if (result == CResEditOutPutDlg::ended) {
+        tellThemeChanged();
+        _bench.notifications().SendNotify(this, notify::Notify_SetFirstPage);
     }
     if (std::exchange(_problemsCame, false))
         showProblems();
+}
+
+void CMainFrameWnd::tellThemeChanged() {
+    for (const char* name :
+         {notify::Notify_ReloadDataMsg, notify::Notify_ReloadBigorSmall, notify::Notify_ReloadTopTitleText})
+        _bench.notifications().SendNotify(this, name);
 }
 
 void CMainFrameWnd::chooseFirstLanguage() {

@@ -62,9 +62,9 @@ TEST(ExportForm, VersionFollowsTheTarget) {
         unsigned generation;
         const char* whenLeft;
         const char* whenChosen;
-    } cases[] = {{"100", 2, "100", "100"}, {"999", 2, "999", "999"},   {"1000", 2, "100", "100"},
-                 {"99", 2, "100", "100"},  {"", 2, "100", "100"},      {"7", 0, "7", "7"},
-                 {"", 1, "", "1"},         {"5000", 1, "5000", "5000"}};
+    } cases[] = {{"100", 2, "100", "100"}, {"999", 2, "999", "999"},  {"1000", 2, "100", "1000"},
+                 {"99", 2, "100", "100"},  {"1001", 2, "100", "100"}, {"", 2, "100", "100"},
+                 {"7", 0, "7", "7"},       {"", 1, "", "1"},          {"5000", 1, "5000", "5000"}};
     for (const auto& [text, generation, whenLeft, whenChosen] : cases) {
         EXPECT_EQ(versionWhenLeft(text, generation), whenLeft) << text;
         EXPECT_EQ(versionForTarget(text, generation), whenChosen) << text;

@@ -17,6 +17,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <utility>
 
 namespace zdt::test {
 
@@ -27,7 +28,10 @@ protected:
         page = std::make_unique<CResEditOutPutDlg>(bench);
         done = std::make_unique<QSignalSpy>(page.get(), &CResEditOutPutDlg::done);
         stored = std::make_unique<QSignalSpy>(page.get(), &CResEditOutPutDlg::valuesStored);
-        page->chooseFolder = [this](QWidget*, const QString&) { return QString::fromStdString(chosen); };
+        page->folderChoice.ask = [this](QWidget*, const FileRequest&) {
+            const std::string folder = chosenFirst.empty() ? chosen : std::exchange(chosenFirst, {});
+            return folder.empty() ? QStringList() : QStringList{QString::fromStdString(folder)};
+        };
         page->showFolder = [this](const QString& folder) { shown = folder; };
         page->resize(1280, 727);
         page->show();
@@ -73,6 +77,12 @@ protected:
         timer->start(20);
     }
 
+    /// Lets what waits for the event loop come, and all that it begins.
+    void settle() {
+        QCoreApplication::processEvents();
+        page->previews().finish();
+    }
+
     void pressOk(const QStringList& answers = {}) {
         said.clear();
         if (!answers.isEmpty())
@@ -106,6 +116,7 @@ protected:
     std::unique_ptr<CResEditOutPutDlg> page;
     std::unique_ptr<QSignalSpy> done;
     std::unique_ptr<QSignalSpy> stored;
+    std::string chosenFirst; ///< In the place of `chosen`, once.
     std::string chosen;
     QString shown;
     QStringList said;

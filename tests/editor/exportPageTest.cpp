@@ -45,9 +45,7 @@ TEST_F(ExportPageTest, OpeningFillsTheFormAndDrawsThePreviews) {
     EXPECT_TRUE(find<QPushButton>("OVUI5Btn").isEnabled());
     for (const char* group : {"unlock", "widget", "icons", "contacts", "mms", "systemui"})
         EXPECT_NE(page->findChild<QWidget*>(QString("preview_") + group), nullptr) << group;
-    EXPECT_EQ(
-        find<StateLine>("previewsDrawn").text(),
-        TextWith("kExport_drawing_ended", TextWith("kTransformation_lock_picture_wallpapers_batch_result_suc", 0)));
+    EXPECT_EQ(find<StateLine>("previewsDrawn").text(), "Done, 0 failed");
     std::vector<Problem> problems;
     EXPECT_TRUE(theme.checkFiles(problems));
     EXPECT_TRUE(QTest::qWaitFor([&] {
@@ -154,6 +152,8 @@ TEST_F(ExportPageTest, ChecksWhileTypingAndKeepsItThroughAChangeOfLanguage) {
 
 TEST_F(ExportPageTest, WritesThePackageAndShowsItsFolder) {
     openGood();
+    find<QPlainTextEdit>("ResOutDlgSummary").setPlainText("😀");
+    EXPECT_EQ(find<QLabel>("summaryCount").text(), "Characters: 1");
     find<QPlainTextEdit>("ResOutDlgSummary").setPlainText("A text");
     pressOk({"messageOpenFolder"});
     EXPECT_EQ(said, QStringList{Text("kWarn_popout_sucess")});
@@ -193,6 +193,68 @@ TEST_F(ExportPageTest, CancellingTheFolderKeepsTheStoredValues) {
     EXPECT_EQ(ThemeResource::readDescription("Aurora", store.root()).at("version"), "8.0.100");
     page->close();
     EXPECT_EQ(done->first().first().toInt(), 2);
+}
+
+TEST_F(ExportPageTest, FolderOfTheStoreIsRefusedAndAskedForAgain) {
+    openGood();
+    chosenFirst = store.path("res/Aurora");
+    pressOk({"messageAccept", "messageAccept"});
+    EXPECT_EQ(said, QStringList({Text("kExport_store_folder"), Text("kWarn_popout_sucess")}));
+    EXPECT_FALSE(std::filesystem::exists(store.path("res/Aurora/Aurora.zdt")));
+    EXPECT_TRUE(std::filesystem::exists(package()));
+}
+
+TEST_F(ExportPageTest, ThemeThatIsClosedBehindAChooserOrABoxEndsTheExport) {
+    openGood();
+    page->folderChoice.ask = [this](QWidget*, const FileRequest&) {
+        bench.closeTheme();
+        return QStringList{QString::fromStdString(chosen)};
+    };
+    pressOk();
+    openNew("Aurora2");
+    page->open();
+    type("ResOutDlgENThemeName", "Aurora");
+    page->folderChoice.ask = [this](QWidget*, const FileRequest&) {
+        openNew("Aurora3");
+        return QStringList{QString::fromStdString(chosen)};
+    };
+    pressOk();
+    EXPECT_FALSE(std::filesystem::exists(package()));
+    EXPECT_TRUE(done->isEmpty());
+}
+
+TEST_F(ExportPageTest, StoredVersionThatOnlyOkAcceptsIsShownAndLeftAsItIs) {
+    ThemeResource& theme = openNew();
+    theme.setValues({}, {{"title", "Aurora"}, {"version", "9.0.1000"}});
+    openPage();
+    EXPECT_EQ(text("ResOutDlgThemeVersion"), "1000");
+    find<QPushButton>("ResOutDlgOKBtn").setFocus();
+    pressOk();
+    EXPECT_EQ(theme.getValue({}, "version"), "9.0.1000");
+    EXPECT_EQ(text("ResOutDlgThemeVersion"), "1000");
+}
+
+TEST_F(ExportPageTest, VersionIsMendedWhenABoxLeadsToAnotherField) {
+    openGood();
+    type("ResOutDlgDesigner", "");
+    type("ResOutDlgThemeVersion", "1000");
+    answer({"messageAccept"});
+    QTest::keyClick(&find<QLineEdit>("ResOutDlgThemeVersion"), Qt::Key_Return);
+    EXPECT_EQ(said, QStringList{Text("kWarn_theme_name_canot_empty_DES")});
+    EXPECT_EQ(text("ResOutDlgThemeVersion"), "100");
+}
+
+TEST_F(ExportPageTest, VideoLockThatComesLaterTakesTheOldestTargetAway) {
+    ThemeResource& theme = openNew("Aurora", {0});
+    openPage();
+    type("ResOutDlgENThemeName", "Aurora");
+    EXPECT_TRUE(find<QPushButton>("OVUI5Btn").isChecked());
+    ASSERT_EQ(theme.setLockScreenType("video"), 0);
+    bench.notifications().SendNotify(nullptr, notify::Notify_ReloadDataMsg);
+    EXPECT_EQ(find<QPushButton>("OVUI9Btn").group()->checkedButton(), nullptr);
+    EXPECT_EQ(text("ResOutDlgENThemeName"), "Aurora");
+    pressOk({"messageAccept"});
+    EXPECT_EQ(said, QStringList{Text("kWarn_theme_config_not_complite")});
 }
 
 TEST_F(ExportPageTest, HandsOverWhatIsMissing) {

@@ -1,24 +1,29 @@
 #include "editor/exportPageFixture.h"
 #include "editor/previewCard.h"
+#include "editor/stateLine.h"
 #include "kit/notificationNames.h"
 
 #include <QAbstractButton>
+#include <QToolButton>
 
 namespace zdt {
 namespace {
 
-using ExportPreviewsTest = test::ExportPageTest;
+class ExportPreviewsTest : public test::ExportPageTest {
+protected:
+    void choosePicture(const std::string& name) {
+        const QString file = QString::fromStdString(savedPicture(name, {1080, 2160}));
+        page->previews().pictureChoice.ask = [file](QWidget*, const FileRequest&) { return QStringList{file}; };
+    }
+};
 
 TEST_F(ExportPreviewsTest, ReplacedLockPreviewIsDrawnAgain) {
     openGood();
     const std::string cover = previewBytes("cover.jpg");
     const QString name = "preview_unlock_0.jpg";
-    page->previews().choosePicture = [&](QWidget*, const QString&) {
-        return QString::fromStdString(savedPicture("own.png", {1080, 2160}));
-    };
+    choosePicture("own.png");
     QTest::mouseClick(&find<QPushButton>("replace_" + name), Qt::LeftButton);
-    page->previews().finish();
-    page->previews().finish();
+    settle();
     EXPECT_NE(previewBytes("cover.jpg"), cover);
     std::vector<Problem> problems;
     EXPECT_TRUE(bench.theme()->checkFiles(problems));
@@ -49,6 +54,66 @@ TEST_F(ExportPreviewsTest, RefusedPicturesLeaveWhatWasThere) {
                                      reinterpret_cast<std::intptr_t>(&wanted));
     page->previews().finish();
     EXPECT_NE(previewBytes("preview_icons_0.jpg"), before);
+}
+
+TEST_F(ExportPreviewsTest, SparePictureOfTheContactsComesAndGoes) {
+    openGood();
+    const QString name = "preview_contacts_2.jpg";
+    EXPECT_EQ(find<QPushButton>("replace_" + name).text(), Text("file_load"));
+    EXPECT_TRUE(find<QLabel>("previewsReady").text().startsWith("9/9"))
+        << find<QLabel>("previewsReady").text().toStdString();
+    choosePicture("own.png");
+    QTest::mouseClick(&find<QPushButton>("replace_" + name), Qt::LeftButton);
+    settle();
+    EXPECT_FALSE(previewBytes(name.toStdString()).empty());
+    auto& remove = find<QToolButton>("remove_" + name);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return remove.isVisible(); }));
+    EXPECT_FALSE(find<QToolButton>("remove_preview_contacts_0.jpg").isVisible());
+    const auto press = [&](const char* button) {
+        answer({button});
+        QTest::mouseClick(&find<QToolButton>("remove_" + name), Qt::LeftButton);
+        settle();
+        return bench.theme()->findLeaf({"preview"}, name.toStdString()) != nullptr;
+    };
+    EXPECT_TRUE(press("messageReject"));
+    EXPECT_FALSE(press("messageAccept"));
+    EXPECT_EQ(find<QPushButton>("replace_" + name).text(), Text("file_load"));
+}
+
+TEST_F(ExportPreviewsTest, WorkReachesNoOtherThemeAndNoneThatWasLeft) {
+    openGood();
+    const std::string own = savedPicture("own.jpg", {1080, 2160});
+    const std::string before = previewBytes("preview_mms_0.jpg");
+    const auto replace = [&] { page->previews().replace("preview_mms_0.jpg", QString::fromStdString(own)); };
+    replace();
+    replace(); // Waits behind the first.
+    page->previews().refresh();
+    bench.closeTheme();
+    bench.takeTheme(store.open("Aurora"));
+    page->previews().finish();
+    EXPECT_EQ(previewBytes("preview_mms_0.jpg"), before) << "opened again";
+    page->open();
+    page->previews().finish();
+    EXPECT_EQ(find<StateLine>("previewsDrawn").text(), "Done, 0 failed");
+    replace();
+    page->hide();
+    page->previews().finish();
+    EXPECT_EQ(previewBytes("preview_mms_0.jpg"), before) << "left";
+}
+
+TEST_F(ExportPreviewsTest, OthersHearOfNewPreviewsWhenThePageIsLeft) {
+    openGood();
+    static_cast<void>(page->previews().takeChanged());
+    const QSignalSpy changed(page.get(), &CResEditOutPutDlg::previewsChanged);
+    page->open();
+    page->previews().finish();
+    page->close();
+    EXPECT_EQ(changed.count(), 0) << "drawn again, and the same";
+    page->previews().replace("preview_mms_0.jpg", QString::fromStdString(savedPicture("own.jpg", {1080, 2160})));
+    page->previews().finish();
+    page->close();
+    page->close();
+    EXPECT_EQ(changed.count(), 1);
 }
 
 TEST_F(ExportPreviewsTest, HelpOpensBesideItsButton) {

@@ -159,7 +159,10 @@ TEST(PreviewCatalog, SectionsShowWhatTheGenerationHasInTheOrderOfNumbers) {
     EXPECT_EQ(sections[1].pictures.size(), 2U) << "the second of the contacts comes with generation 9";
     EXPECT_EQ(captionNumber(sections[2], "preview_mms_0.jpg"), "");
     EXPECT_TRUE(sections[3].isDrawn);
-    EXPECT_EQ(previewSections(pictures, 2, false)[1].pictures.size(), 3U);
+    const PreviewSection contacts = previewSections(pictures, 2, false)[1];
+    ASSERT_EQ(contacts.pictures.size(), 4U);
+    EXPECT_FALSE(contacts.pictures[1].isSpare);
+    EXPECT_TRUE(contacts.pictures[2].isSpare) << "a place for the third";
 
     const std::vector<PreviewSection> reduced = previewSections(pictures, 2, true);
     ASSERT_EQ(reduced.size(), 1U);

@@ -2,6 +2,7 @@
 
 #include "common/boxAnswers.h"
 #include "common/pageFixture.h"
+#include "editor/exportPage.h"
 #include "kit/controlSearch.h"
 #include "kit/flowView.h"
 #include "kit/layoutError.h"
@@ -18,6 +19,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QStackedWidget>
 #include <QTest>
 
@@ -303,6 +305,51 @@ TEST_F(MainFrameTest, ClosingAsksWhileAThemeIsShown) {
     click("ThemePreviewBackBtn");
     EXPECT_EQ(during([&] { click("closebtn"); }), QStringList());
     EXPECT_FALSE(window().isVisible());
+}
+
+TEST_F(MainFrameTest, TheExportPageEndsWithWhatItsResultAsksFor) {
+    const QStringList reloads{notify::Notify_ReloadDataMsg, notify::Notify_ReloadBigorSmall,
+                              notify::Notify_ReloadTopTitleText};
+    store.create("Aurora").reset();
+    window().openTheme("Aurora");
+    const auto exportPage = [&]() -> CResEditOutPutDlg& {
+        window().openExport();
+        CResEditOutPutDlg& page = *window().findChild<CResEditOutPutDlg*>();
+        page.previews().finish();
+        static_cast<void>(page.previews().takeChanged());
+        find<QLineEdit>("ResOutDlgENThemeName").setText("Aurora");
+        return page;
+    };
+    QString folder;
+    exportPage().folderChoice.ask = [&](QWidget*, const FileRequest&) {
+        return folder.isEmpty() ? QStringList() : QStringList{folder};
+    };
+    const auto heard = [&](const std::function<void()>& action, const QStringList& said) {
+        Listener listener;
+        bench.notifications().AddNotifier(listener);
+        EXPECT_EQ(during(action), said);
+        return listener.heard;
+    };
+    EXPECT_EQ(heard([&] { click("ResOutDlgOKBtn"); }, {}), reloads) << "cancelled behind the stored values";
+    EXPECT_EQ(tab(), 2);
+    EXPECT_EQ(find<QLineEdit>("ResOutDlgENThemeName").text(), "Aurora");
+    EXPECT_EQ(heard([&] { click("btnClose"); }, {}), QStringList());
+    EXPECT_EQ(tab(), 1);
+
+    folder = QString::fromStdString(outside.path());
+    exportPage();
+    EXPECT_EQ(heard([&] { click("ResOutDlgOKBtn"); }, {Text("kWarn_popout_sucess")}),
+              reloads + QStringList{notify::Notify_SetFirstPage});
+    EXPECT_EQ(tab(), 1);
+    EXPECT_FALSE(find("ResGlobleErrorBtn").isChecked());
+
+    ASSERT_TRUE(QFile::remove(folder + "/Aurora.zdt"));
+    ASSERT_EQ(bench.theme()->clearFile({"preview", "preview_mms_0.jpg"}), 0);
+    exportPage();
+    EXPECT_EQ(heard([&] { click("ResOutDlgOKBtn"); }, {Text("kWarn_export_theme_error")}),
+              QStringList{notify::Notify_Error_List_Msg} + reloads + QStringList{notify::Notify_SetFirstPage});
+    EXPECT_EQ(tab(), 1);
+    EXPECT_TRUE(find("ResGlobleErrorBtn").isChecked()) << "the list of problems is shown";
 }
 
 TEST_F(MainFrameTest, ABrokenLayoutCostsItsPageAlone) {
