@@ -34,6 +34,9 @@ QImage covering(const QImage& picture, const QSize& size) {
     const QSize part = size.scaled(picture.size(), Qt::KeepAspectRatio).expandedTo({1, 1});
     QRect middle(QPoint(), part);
     middle.moveCenter(picture.rect().center());
+    // An upright one keeps its clock and status bar, and loses what stands at its foot.
+    if (size.height() > size.width())
+        middle.moveTop(0);
     const QImage cut = picture.copy(middle);
     return part == size ? cut : cut.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }

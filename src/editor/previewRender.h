@@ -15,8 +15,8 @@ namespace zdt {
 /// The qualities that are tried, one after the other, until a JPEG is small enough.
 inline constexpr std::array previewQualities{80, 60, 40, 20};
 
-/// The middle of a picture, as much of it as has the proportions of `size`, smoothly scaled to exactly that size in
-/// pixels. Null for a null picture.
+/// The middle of a picture, or its top for an upright `size`: as much of it as has the proportions of `size`, smoothly
+/// scaled to exactly that size in pixels. Null for a null picture.
 [[nodiscard]] QImage covering(const QImage& picture, const QSize& size);
 
 /// A JPEG of at most `maxBytes`, of the best of `previewQualities` that gives one; empty if none does.

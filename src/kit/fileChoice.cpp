@@ -12,6 +12,9 @@ namespace zdt {
 
 namespace {
 
+/// Wide enough for a few columns of names, in logical pixels.
+constexpr QSize chooserSize(760, 520);
+
 QFileDialog::FileMode modeOf(FileRequest::Kind kind) {
     switch (kind) {
     case FileRequest::Kind::folder:
@@ -48,6 +51,7 @@ QStringList askForFiles(QWidget* parent, const FileRequest& request) {
     dialog.setObjectName("fileChoice");
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setViewMode(QFileDialog::List);
+    dialog.resize(chooserSize);
     dialog.setFileMode(modeOf(request.kind));
     sayWords(dialog);
     if (request.kind == FileRequest::Kind::folder)
