@@ -47,14 +47,18 @@ protected:
     const bool hasOut = makePath(out);
 };
 
-TEST_F(PreviewWork, CoveringShowsTheMiddle) {
+TEST_F(PreviewWork, CoveringShowsTheTopOfAScreenAndTheMiddleOfItWhereWide) {
     QImage screen = plain({1080, 2160}, Qt::white);
-    for (int y = 120; y < 2040; ++y) // What a cover shows of a tall screen.
+    for (int y = 0; y < 1920; ++y) // What a cover shows of a tall screen.
         screen.setPixel(0, y, qRgb(255, 0, 0));
     const QImage cover = covering(screen, {1080, 1920});
     ASSERT_EQ(cover.size(), QSize(1080, 1920));
     EXPECT_EQ(cover.pixel(0, 0), qRgb(255, 0, 0));
     EXPECT_EQ(cover.pixel(0, 1919), qRgb(255, 0, 0));
+    screen.fill(Qt::white);
+    for (int y = 1050; y < 1110; ++y)
+        screen.setPixel(540, y, qRgb(255, 0, 0));
+    EXPECT_NE(covering(screen, {1080, 60}).pixel(540, 30), qRgb(255, 255, 255));
     for (const QSize& size : {QSize(510, 345), QSize(640, 640), QSize(1, 1)})
         EXPECT_EQ(covering(screen, size).size(), size);
     EXPECT_TRUE(covering({}, {10, 10}).isNull());
