@@ -11,6 +11,7 @@
 #include "support/files.h"
 
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileInfo>
 #include <QHideEvent>
 #include <QLabel>
@@ -229,8 +230,14 @@ bool CResEditOutPutDlg::runExport(const std::string& path) {
 }
 
 void CResEditOutPutDlg::tellSuccess(const QString& path) {
-    Box box({Box::Kind::Success, "kDialog_Title_Desc_Info", "kWarn_popout_sucess", {}, "kConfirm", {}, false}, Text,
-            window());
+    Box box({Box::Kind::Success,
+             "kDialog_Title_Desc_Info",
+             "kWarn_popout_sucess",
+             {QDir::toNativeSeparators(path)},
+             "kConfirm",
+             {},
+             false},
+            Text, window());
     QPushButton* show = box.addButton(Text("kExport_open_folder"), "messageOpenFolder", {}, 0);
     show->setAutoDefault(false);
     connect(show, &QPushButton::clicked, &box, [&] {

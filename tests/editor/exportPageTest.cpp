@@ -156,7 +156,7 @@ TEST_F(ExportPageTest, WritesThePackageAndShowsItsFolder) {
     EXPECT_EQ(find<QLabel>("summaryCount").text(), "Characters: 1");
     find<QPlainTextEdit>("ResOutDlgSummary").setPlainText("A text");
     pressOk({"messageOpenFolder"});
-    EXPECT_EQ(said, QStringList{Text("kWarn_popout_sucess")});
+    EXPECT_EQ(said, QStringList{Text("kWarn_popout_sucess").arg(QString::fromStdString(chosen) + "/Aurora.zdt")});
     EXPECT_EQ(shown.toStdString(), chosen);
     ASSERT_EQ(done->count(), 1);
     EXPECT_EQ(done->first().first().toInt(), 1);
@@ -199,7 +199,8 @@ TEST_F(ExportPageTest, FolderOfTheStoreIsRefusedAndAskedForAgain) {
     openGood();
     chosenFirst = store.path("res/Aurora");
     pressOk({"messageAccept", "messageAccept"});
-    EXPECT_EQ(said, QStringList({Text("kExport_store_folder"), Text("kWarn_popout_sucess")}));
+    EXPECT_EQ(said, QStringList({Text("kExport_store_folder"),
+                                 Text("kWarn_popout_sucess").arg(QString::fromStdString(chosen) + "/Aurora.zdt")}));
     EXPECT_FALSE(std::filesystem::exists(store.path("res/Aurora/Aurora.zdt")));
     EXPECT_TRUE(std::filesystem::exists(package()));
 }

@@ -338,7 +338,7 @@ TEST_F(MainFrameTest, TheExportPageEndsWithWhatItsResultAsksFor) {
 
     folder = QString::fromStdString(outside.path());
     exportPage();
-    EXPECT_EQ(heard([&] { click("ResOutDlgOKBtn"); }, {Text("kWarn_popout_sucess")}),
+    EXPECT_EQ(heard([&] { click("ResOutDlgOKBtn"); }, {Text("kWarn_popout_sucess").arg(folder + "Aurora.zdt")}),
               reloads + QStringList{notify::Notify_SetFirstPage});
     EXPECT_EQ(tab(), 1);
     EXPECT_FALSE(find("ResGlobleErrorBtn").isChecked());
