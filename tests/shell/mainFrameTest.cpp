@@ -17,11 +17,14 @@
 
 #include <QComboBox>
 #include <QDir>
+#include <QDropEvent>
 #include <QFile>
 #include <QLabel>
+#include <QMimeData>
 #include <QLineEdit>
 #include <QStackedWidget>
 #include <QTest>
+#include <QUrl>
 
 #include <array>
 #include <functional>
@@ -245,6 +248,38 @@ TEST_F(MainFrameTest, SeveralPackagesAndFoldersHaveOneQuestionAndOneResult) {
               QStringList({"1 of these themes exist already. Replace them?", "Themes imported: 3. Not imported: 1"}));
     EXPECT_EQ(themes(), (std::vector<std::string>{"A folder v1.0", "One", "ToPack", "Two"}));
     EXPECT_TRUE(test::problemsOf(*store.open("A folder v1.0")).empty());
+}
+
+TEST_F(MainFrameTest, DropsAreImportedOrHandedToThePages) {
+    const QString theme = package("Dropped");
+    const QString picture = QString::fromStdString(outside.write("a.png", "png"));
+    const auto drop = [&](const QStringList& paths) {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& path : paths)
+            urls += QUrl::fromLocalFile(path);
+        data.setUrls(urls);
+        QDragEnterEvent enter({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&window(), &enter);
+        QDropEvent fall({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&window(), &fall);
+        QTest::qWait(300);
+        return enter.isAccepted();
+    };
+    EXPECT_EQ(during([&] { EXPECT_TRUE(drop({theme})); }), QStringList{Text("kWarn_Import_theme_sucess")});
+    EXPECT_EQ(during([&] { EXPECT_TRUE(drop({picture})); }), QStringList{Text("kStart_no_package")});
+    window().openTheme("Dropped");
+    Listener listener;
+    bench.notifications().AddNotifier(listener);
+    static_cast<void>(during([&] { drop({picture}); }));
+    EXPECT_TRUE(listener.heard.contains(notify::Notify_Drag_File));
+    // Over a question nothing is taken.
+    QTimer::singleShot(50, &window(), [&] {
+        EXPECT_FALSE(drop({theme}));
+        FindControl<ZMessageBoxDlg>(&window(), {}).reject();
+    });
+    window().close();
+    EXPECT_TRUE(window().isVisible());
 }
 
 TEST_F(MainFrameTest, OfOneNameTheSecondIsAskedAboutAndBadNamesAreCounted) {
