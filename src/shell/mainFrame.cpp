@@ -27,6 +27,7 @@
 #include <QDir>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -48,6 +49,19 @@ constexpr int preparePause = 250;
 /// The program's sign in the title bar, and between it and the name.
 constexpr int logoSide = 24;
 constexpr int logoGap = 8;
+
+/// The program's sign at the left of a wider place, which leaves the gap. It keeps its colours under a dialog.
+QIcon titleSign(double ratio) {
+    QPixmap place(QSize(logoSide + logoGap, logoSide) * ratio);
+    place.setDevicePixelRatio(ratio);
+    place.fill(Qt::transparent);
+    QPainter painter(&place);
+    programIcon().paint(&painter, QRect(0, 0, logoSide, logoSide));
+    painter.end();
+    QIcon sign(place);
+    sign.addPixmap(place, QIcon::Disabled);
+    return sign;
+}
 
 /// The window's own layout, without which there is no window.
 QWidget* loadFrame(Workbench& bench, ZWindow& window) {
@@ -130,10 +144,7 @@ void CMainFrameWnd::connectButtons() {
         connect(&FindControl<QAbstractButton>(this, name), &QAbstractButton::clicked, this, action);
     };
     auto& about = FindControl<QPushButton>(this, "aboutBtn");
-    // The sign keeps its colours under a dialog.
-    QIcon sign = programIcon();
-    sign.addPixmap(sign.pixmap(QSize(logoSide, logoSide), devicePixelRatioF()), QIcon::Disabled);
-    about.setIcon(sign);
+    about.setIcon(titleSign(devicePixelRatioF()));
     about.setIconSize(QSize(logoSide + logoGap, logoSide));
     FindControl<QLabel>(this, "exportChevron")
         .setPixmap(iconPixmap(Icon::ChevronRight, token::iconPlain, 18, devicePixelRatioF()));
@@ -221,6 +232,8 @@ void CMainFrameWnd::showTab(Tab tab) {
     // What has the keyboard must be on the page that is seen: the first thing that takes it.
     QWidget* page = _tabs.currentWidget();
     if (page->isAncestorOf(focusWidget()))
+        return;
+    if (tab == Tab::start && _start && _start->focusCards())
         return;
     for (QWidget* next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain()) {
         if (page->isAncestorOf(next) && next->isVisible() && next->isEnabled() &&

@@ -134,6 +134,12 @@ void CStartPage::showFound() {
     _nothing.setTexts(TextWith("kStart_nothing", _search.text().trimmed()), {}, Text("kStart_search_clear"));
 }
 
+bool CStartPage::focusCards() {
+    if (_cards.count() > 0)
+        _view.setFocus();
+    return _cards.count() > 0;
+}
+
 void CStartPage::focusSearch() {
     if (_tabs.currentIndex() != themesTab)
         return;

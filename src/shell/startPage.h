@@ -29,6 +29,8 @@ public:
     /// Reads the list of themes anew. The current card stays current.
     void refill();
     void focusSearch();
+    /// Gives the cards the keyboard. False if there are none.
+    bool focusCards();
     /// Makes a theme's card the current one and shows it.
     void select(const std::string& name);
 

@@ -20,8 +20,8 @@
 #include <QDropEvent>
 #include <QFile>
 #include <QLabel>
-#include <QMimeData>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QStackedWidget>
 #include <QTest>
 #include <QUrl>
