@@ -92,7 +92,7 @@ void CFullListPage::enterValue(const QString& value, bool isWhole) {
 
 void CFullListPage::changed(const std::string& key) {
     _lost.clear();
-    // Another kind of lock screen has other keys.
+    // What else is written, and needed, depends on the kind of lock screen.
     if (key == lockStyleKey)
         return bench().notifications().SendNotify(this, notify::Notify_ReloadDataMsg);
     if (theme())

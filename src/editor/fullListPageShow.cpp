@@ -118,7 +118,7 @@ void CFullListPage::showCurrent() {
     if (hasCurrent()) {
         const KeyRow& row = _table.row(current());
         if (_editor->hasReason() && row.key != _edited)
-            _lost = TextWith("kList_not_stored", _editedName) + _editor->reason();
+            _lost = Text("kList_not_stored").arg(_editedName, _editor->reason());
         _current = row.key;
         _editedName = _table.words(current()).name;
         _edited = isFile(row.kind) ? std::string() : row.key;

@@ -131,7 +131,7 @@ TEST_F(MainFrameTest, OpensByEnterAndByDoubleClickAndComesBack) {
 TEST_F(MainFrameTest, TheListAndItsNavigationAgree) {
     store.create("Aurora").reset();
     window().openTheme("Aurora");
-    EXPECT_TRUE(find<QAbstractButton>("nav_common").isChecked());
+    EXPECT_TRUE(find<QAbstractButton>("nav_commonSetting").isChecked());
     QTest::keyClick(&window(), Qt::Key_F, Qt::ControlModifier);
     EXPECT_TRUE(find<QWidget>("keySearch").hasFocus());
     auto& modules = find<QComboBox>("keyModule");
@@ -153,7 +153,7 @@ TEST_F(MainFrameTest, EveryProblemLeadsSomewhere) {
               {"unlock/custom/file", "nav_unlock"},
               {"unlock", "nav_unlock"},
               {"mms/text/message_pop_send_bg_color", "nav_mms"},
-              {"phone/commonSetting/text/gone", "nav_common"},
+              {"phone/commonSetting/text/gone", "nav_commonSetting"},
               {"gone/x", "nav_all"},
               {"title", nullptr},
               {"", nullptr}};
