@@ -31,6 +31,11 @@ std::optional<bool> FileChanges::differs(const std::string& file, const std::str
     return entry->second;
 }
 
+void FileChanges::forget() {
+    _known.clear();
+    _asked.clear();
+}
+
 void FileChanges::start() {
     if (_asked.empty())
         return;
@@ -47,8 +52,10 @@ void FileChanges::compare(const std::vector<Pair>& pairs) {
     QMetaObject::invokeMethod(
         this,
         [this, results] {
-            for (const auto& [stamp, differs] : results)
-                _known[stamp] = differs;
+            for (const auto& [stamp, differs] : results) {
+                if (const auto asked = _known.find(stamp); asked != _known.end())
+                    asked->second = differs;
+            }
             emit known();
         },
         Qt::QueuedConnection);

@@ -23,6 +23,8 @@ public:
     /// Whether two files differ, an empty path being one that isn't there; nothing if they were asked for just now, and
     /// then `known` follows.
     [[nodiscard]] std::optional<bool> differs(const std::string& file, const std::string& standing);
+    /// Forgets all that it knows; what is being compared isn't told any more.
+    void forget();
     /// Has what was asked for since the last time compared.
     void start();
 

@@ -2,10 +2,12 @@
 
 #include "editor/keyDetails.h"
 #include "editor/keyEditor.h"
+#include "editor/moduleWords.h"
 #include "kit/emptyState.h"
 #include "kit/icons.h"
 #include "kit/kitStyle.h"
 #include "kit/labels.h"
+#include "kit/layoutError.h"
 #include "kit/listView.h"
 #include "kit/localisation.h"
 #include "kit/notificationNames.h"
@@ -18,7 +20,6 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -32,31 +33,8 @@ constexpr int hintIcon = 16;
 constexpr int dotIconSide = 10;
 constexpr int detailDelay = 40;
 
-struct ModuleIcon {
-    const char* module;
-    Icon icon;
-};
-
-constexpr ModuleIcon moduleIcons[] = {
-    {"", Icon::ListAlt},
-    {sharedModule, Icon::Language},
-    {"launcher", Icon::Apps},
-    {"contacts", Icon::PersonOutline},
-    {"mms", Icon::ChatBubbleOutline},
-    {"systemui", Icon::Tune},
-    {"phone", Icon::Smartphone},
-    {"recorder", Icon::MusicNote},
-    {"telecom", Icon::PhonelinkSetup},
-    {"icons", Icon::GridView},
-    {"wallpaper", Icon::Wallpaper},
-    {"unlock", Icon::LockOutline},
-    {"preview", Icon::FilterNone},
-};
-
-QIcon iconOf(const std::string& module) {
-    const auto* const known = std::find_if(std::begin(moduleIcons), std::end(moduleIcons),
-                                           [&](const ModuleIcon& row) { return row.module == module; });
-    return icon(known == std::end(moduleIcons) ? Icon::Category : known->icon, token::iconPlain);
+QIcon iconOf(Icon sign) {
+    return icon(sign, token::iconPlain);
 }
 
 /// The dot that marks what is changed, as an icon.
@@ -98,17 +76,19 @@ CFullListPage::CFullListPage(Workbench& bench, QWidget* parent)
     , _edit(control<QPushButton>("detailEdit"))
     , _reset(control<QPushButton>("detailReset"))
     , _editor(new KeyEditor(_list.viewport()))
-    , _preview(new KeyPreview)
-    , _facts(new KeyFacts)
-    , _nothing(new QLabel) {
+    , _preview(new KeyPreview(this))
+    , _facts(new KeyFacts(this))
+    , _nothing(new QLabel(this)) {
     control<QLabel>("keyHintIcon")
         .setPixmap(iconPixmap(Icon::InfoOutline, token::iconNavigation, hintIcon, devicePixelRatioF()));
     _nothing->setProperty("type", "hint");
     _nothing->setWordWrap(true);
-    auto& details = *static_cast<QVBoxLayout*>(control<QWidget>("detailBody").layout());
-    details.insertWidget(0, _nothing);
-    details.insertWidget(0, _facts);
-    details.insertWidget(0, _preview);
+    auto* details = qobject_cast<QVBoxLayout*>(control<QWidget>("detailBody").layout());
+    if (!details)
+        throw LayoutError("fullList.xml: detailBody has no QVBoxLayout");
+    details->insertWidget(0, _nothing);
+    details->insertWidget(0, _facts);
+    details->insertWidget(0, _preview);
     connectBar();
     connectList();
     connectEditor();
@@ -129,7 +109,7 @@ void CFullListPage::connectBar() {
         setFilter(filter);
     });
     connect(&_modules, &QComboBox::activated, this,
-            [this](int index) { showModule(_modules.itemData(index).toString().toStdString()); });
+            [this](int index) { static_cast<void>(showModule(_modules.itemData(index).toString().toStdString())); });
     connect(&_changedOnly, &QPushButton::toggled, this, [this](bool only) {
         KeyFilter filter = _table.filter();
         filter.changedOnly = only;
@@ -147,7 +127,6 @@ void CFullListPage::connectBar() {
             _changedOnly.setChecked(false);
         _search.setFocus();
     });
-    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, &CFullListPage::focusSearch);
     _search.installEventFilter(this);
 }
 
@@ -178,6 +157,10 @@ void CFullListPage::connectList() {
 void CFullListPage::connectEditor() {
     _editor->hide();
     connect(_editor, &KeyEditor::valueEntered, this, &CFullListPage::enterValue);
+    connect(_editor, &KeyEditor::edited, this, [this] {
+        _lost.clear();
+        showHint();
+    });
     connect(_editor, &KeyEditor::reasonChanged, this, &CFullListPage::showHint);
     connect(_editor, &KeyEditor::resetClicked, this, &CFullListPage::resetCurrent);
     connect(_editor, &KeyEditor::finished, this, [this] { _list.setFocus(Qt::ShortcutFocusReason); });
@@ -200,6 +183,8 @@ void CFullListPage::reload() {
     if (name != _theme)
         _current.clear();
     _theme = name;
+    if (!isVisible())
+        clearDetails();
     const std::string key = _current;
     const int scrolled = _list.verticalScrollBar()->value();
     _editor->relabel();
@@ -219,31 +204,33 @@ void CFullListPage::fillModules() {
     const std::vector<std::string> modules = _table.modules();
     const bool isGone = std::find(modules.begin(), modules.end(), _table.filter().module) == modules.end();
     _modules.clear();
-    _modules.addItem(iconOf(""), Text("kList_everything"), QString());
+    _modules.addItem(iconOf(Icon::ListAlt), Text("kList_everything"), QString());
     for (const std::string& module : modules)
-        _modules.addItem(iconOf(module), moduleWord(module), QString::fromStdString(module));
+        _modules.addItem(iconOf(moduleIcon(module)), moduleWord(module), QString::fromStdString(module));
     _modules.setMaxVisibleItems(_modules.count());
     if (isGone && !modules.empty())
-        showModule("");
+        static_cast<void>(showModule(""));
     _modules.setCurrentIndex(std::max(0, _modules.findData(QString::fromStdString(_table.filter().module))));
     placeHead();
 }
 
-void CFullListPage::showModule(const std::string& module) {
+bool CFullListPage::showModule(const std::string& module) {
     const int index = module.empty() ? 0 : _modules.findData(QString::fromStdString(module));
     if (index < 0)
-        return;
+        return false;
     _modules.setCurrentIndex(index);
     KeyFilter filter = _table.filter();
     if (filter.module == module)
-        return;
+        return true;
     filter.module = module;
     _table.dropWaiting();
     setFilter(filter);
+    return true;
 }
 
 void CFullListPage::setFilter(const KeyFilter& filter) {
     const std::string key = _current;
+    const bool isOtherModule = filter.module != _table.filter().module;
     const bool isSorting = filter.descending != _table.filter().descending;
     _table.setFilter(filter);
     const int index = _table.indexOf(key);
@@ -252,6 +239,8 @@ void CFullListPage::setFilter(const KeyFilter& filter) {
     _list.setCurrent(index >= 0 ? index : std::min(0, _table.count() - 1));
     placeHead();
     showCurrent();
+    if (isOtherModule)
+        emit moduleChanged(QString::fromStdString(filter.module));
 }
 
 bool CFullListPage::showLeaf(const std::string& keyText) {
@@ -260,7 +249,7 @@ bool CFullListPage::showLeaf(const std::string& keyText) {
         return false;
     const std::string key = row->key;
     KeyFilter filter = _table.filter();
-    filter.module = filter.module.empty() ? filter.module : row->module;
+    filter.module = row->module;
     filter.text.clear();
     filter.changedOnly = false;
     const QSignalBlocker quietSearch(_search);

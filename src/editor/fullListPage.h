@@ -35,16 +35,21 @@ public:
     CFullListPage(Workbench& bench, QWidget* parent);
     ~CFullListPage() override;
 
-    /// Shows the keys of a module, `sharedModule` for those that all applications share; empty for everything. One that
-    /// has no keys changes nothing.
-    void showModule(const std::string& module);
-    /// Goes to a key: the names down to it, joined by "/". False if the list has no such key.
+    /// Shows the keys of a module, `sharedModule` for those that all applications share; empty for everything. False,
+    /// with nothing changed, for one that has no keys.
+    bool showModule(const std::string& module);
+    /// The module that is shown; empty for everything.
+    [[nodiscard]] const std::string& module() const { return _table.filter().module; }
+    /// Goes to a key, the names down to it joined by "/", and so to its module. False if the list has no such key.
     bool showLeaf(const std::string& keyText);
     void focusSearch();
 
     void Notify(const Notification& message) override;
 
     FileChoice fileChoice{QStandardPaths::PicturesLocation};
+
+signals:
+    void moduleChanged(const QString& module);
 
 protected:
     void reload() override;
@@ -68,6 +73,8 @@ private:
     void placeEditor();
     void showCurrent();
     void showDetails();
+    /// Shows none, until those of the current row are there.
+    void clearDetails();
     void showPreview();
     [[nodiscard]] bool hasCurrent() const;
     [[nodiscard]] int current() const;
@@ -81,12 +88,14 @@ private:
     void tryColour(const std::string& key, const QColor& colour);
     void replaceByDialog();
     void replaceBy(int index, const QString& file);
+    /// What was dropped on a row, -1 for none; says why it can't be taken.
+    void takeDropped(int index, const QStringList& files);
+    [[nodiscard]] bool mayReset(const KeyRow& row);
     void resetCurrent();
     void copyValue() const;
     void pasteValue();
     /// Shows what a change left, and lets others check.
     void changed(const std::string& key);
-    void tell(const QString& reason, const QString& more = {});
     bool listKey(const QKeyEvent& event);
     bool dropOnList(QEvent* event);
 
@@ -118,8 +127,10 @@ private:
     std::string _theme;   ///< The name of the theme that is shown.
     std::string _current; ///< The key of the current row.
     std::string _edited;  ///< That of the row which the fields show, and which may just have been left.
-    QTimer _detailTimer;  ///< Details follow the row when the keys are let go.
-    QTimer _tryTimer;     ///< Colours that are tried are written at most thirty times a second.
+    QString _editedName;
+    QString _lost;       ///< Why a value wasn't stored whose row was left; until the next edit.
+    QTimer _detailTimer; ///< Details follow the row when the keys are let go.
+    QTimer _tryTimer;    ///< Colours that are tried are written at most thirty times a second.
     QColor _tried;
 };
 

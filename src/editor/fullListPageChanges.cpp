@@ -1,22 +1,26 @@
+#include "editor/codeWords.h"
 #include "editor/fullListPage.h"
+#include "editor/keyDefaults.h"
 #include "editor/keyEditor.h"
+#include "editor/previewCard.h"
 #include "kit/colourDialog.h"
 #include "kit/colourText.h"
 #include "kit/listView.h"
 #include "kit/localisation.h"
-#include "kit/messageBoxDlg.h"
+#include "kit/messageBoxes.h"
 #include "kit/notificationNames.h"
 #include "kit/searchField.h"
 #include "model/returnCode.h"
-#include "packaging/uploadMessages.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <bit>
 
 /// What the author changes in the list.
@@ -24,13 +28,16 @@ namespace zdt {
 
 namespace {
 
-QStringList filesOf(const QMimeData& data) {
-    QStringList files;
-    for (const QUrl& url : data.urls()) {
-        if (url.isLocalFile())
-            files.append(url.toLocalFile());
-    }
-    return files;
+/// Whether a drop is for the window: packages and folders of themes are imported there.
+bool holdsThemes(const QStringList& files) {
+    return std::any_of(files.begin(), files.end(), [](const QString& file) {
+        return file.endsWith(".zdt", Qt::CaseInsensitive) || QFileInfo(file).isDir();
+    });
+}
+
+QString reasonWords(const KeyRow& row, int code) {
+    const bool isKind = row.key == lockStyleKey && code == returnCode::notAllowed;
+    return Text(isKind ? QString("kList_lock_kinds") : codeKey(code));
 }
 
 /// What a file dialog offers for a row.
@@ -76,14 +83,18 @@ void CFullListPage::enterValue(const QString& value, bool isWhole) {
         return;
     const KeyRow row = *edited;
     if (!isWhole)
-        return _editor->showReason(Text("kList_colour_form"));
+        return _editor->showReason(Text("kColour_form"));
     if (const int code = changeKey(*theme(), row, value.toStdString()))
-        _editor->showReason(reasonWords(code));
+        _editor->showReason(reasonWords(row, code));
     else
         changed(row.key);
 }
 
 void CFullListPage::changed(const std::string& key) {
+    _lost.clear();
+    // What else is written, and needed, depends on the kind of lock screen.
+    if (key == lockStyleKey)
+        return bench().notifications().SendNotify(this, notify::Notify_ReloadDataMsg);
     if (theme())
         _table.refresh(*theme(), key);
     if (key == _current)
@@ -128,7 +139,7 @@ void CFullListPage::chooseColour(int index) {
         });
     disconnect(late);
     _tryTimer.stop();
-    if (!theme() || !_table.find(row.key))
+    if (!theme() || !_table.find(row.key) || (!chosen && !wasTried))
         return;
     const KeyRow& now = *_table.find(row.key);
     const std::string value = chosen ? colourText(*chosen).toStdString() : std::string();
@@ -139,12 +150,14 @@ void CFullListPage::chooseColour(int index) {
         code = changeKey(*theme(), row, value);
     changed(row.key);
     if (code != returnCode::success)
-        tell(reasonWords(code));
+        tellNote(this, codeKey(code));
 }
 
 void CFullListPage::replaceByDialog() {
     if (!theme() || !hasCurrent() || !isFile(_table.row(current()).kind))
         return;
+    if (_table.row(current()).isDrawn)
+        return tellNote(this, "kList_drawn");
     const std::string key = _current;
     const QString file = fileChoice.file(this, Text("kList_choose_file"), nameFilter(_table.row(current())));
     const int index = _table.indexOf(key);
@@ -163,36 +176,42 @@ void CFullListPage::replaceBy(int index, const QString& file) {
         changed(row.key);
         return;
     }
-    const QString reason =
-        refusal.message.empty() ? reasonWords(refusal.code) : Text(QString::fromStdString(refusal.message));
-    const QString allowed = allowedWords(row);
-    tell(reason, allowed.isEmpty() ? QString() : TextWith("kList_refused_allowed", allowed));
+    const QString reason = refusal.message.empty() ? codeKey(refusal.code) : QString::fromStdString(refusal.message);
+    const QString allowed = row.isDrawn ? QString() : allowedWords(row);
+    if (allowed.isEmpty())
+        tellNote(this, reason);
+    else
+        tellNote(this, "kList_refused_allowed", {Text(reason), allowed});
+}
+
+void CFullListPage::takeDropped(int index, const QStringList& files) {
+    if (!theme())
+        return;
+    if (files.size() != 1)
+        tellNote(this, "kList_drop_one");
+    else if (index < 0 || index >= _table.count() || !isFile(_table.row(index).kind))
+        tellNote(this, "kList_drop_no_file");
+    else
+        replaceBy(index, QString(files.first()));
+}
+
+bool CFullListPage::mayReset(const KeyRow& row) {
+    // A file that doesn't fit its place has no value, and nobody misses it. Another is the author's work.
+    return !isFile(row.kind) || row.value().empty() ||
+           askYesNo(this, "kList_reset_question", {QString::fromStdString(row.name())});
 }
 
 void CFullListPage::resetCurrent() {
     if (!theme() || !hasCurrent())
         return;
     const KeyRow row = _table.row(current());
-    if (!canReset(row, _table.isChanged(current())))
+    // The theme may be another one after the question.
+    if (!canReset(row, _table.isChanged(current())) || !mayReset(row) || !theme() || !_table.find(row.key))
         return;
-    const int code = resetKey(*theme(), row);
-    if (code == returnCode::success) {
-        changed(row.key);
-        _list.setFocus(Qt::OtherFocusReason);
-    } else {
-        tell(reasonWords(code));
-    }
-}
-
-void CFullListPage::tell(const QString& reason, const QString& more) {
-    ZMessageBoxDlg::Message message;
-    message.kind = ZMessageBoxDlg::Kind::Warning;
-    message.titleKey = QString::fromUtf8(kDialog_Title_Waning_Info);
-    message.textKey = "%";
-    message.acceptKey = "kConfirm";
-    const QString words = more.isEmpty() ? reason : reason + "\n" + more;
-    ZMessageBoxDlg::tell(
-        message, [&](const QString& key) { return key == message.textKey ? words : Text(key); }, this);
+    if (const int code = resetKey(*theme(), row))
+        return tellNote(this, codeKey(code));
+    changed(row.key);
+    _list.setFocus(Qt::OtherFocusReason);
 }
 
 void CFullListPage::copyValue() const {
@@ -226,26 +245,23 @@ bool CFullListPage::listKey(const QKeyEvent& event) {
 
 bool CFullListPage::dropOnList(QEvent* event) {
     auto* drop = static_cast<QDropEvent*>(event); // The move and enter events are drops, too.
-    const QStringList files = filesOf(*drop->mimeData());
-    const int index = rowAt(drop->position().toPoint());
-    const bool fits = files.size() == 1 && index >= 0 && isFile(_table.row(index).kind);
-    drop->setAccepted(fits);
-    if (!fits || event->type() != QEvent::Drop)
+    const QStringList files = draggedFiles(*drop->mimeData());
+    drop->setAccepted(!files.isEmpty() && !holdsThemes(files));
+    if (!drop->isAccepted() || event->type() != QEvent::Drop)
         return true;
     drop->acceptProposedAction();
+    const int index = rowAt(drop->position().toPoint());
+    const std::string key = index < 0 ? std::string() : _table.row(index).key;
     // The program that the file comes from waits until the drop is done; a box must not keep it.
-    QTimer::singleShot(
-        0, this, [this, key = _table.row(index).key, file = files.first()] { replaceBy(_table.indexOf(key), file); });
+    QTimer::singleShot(0, this, [this, key, files] { takeDropped(_table.indexOf(key), files); });
     return true;
 }
 
 void CFullListPage::Notify(const Notification& message) {
     ZPage::Notify(message);
-    if (message.name != notify::Notify_Drag_File || message.wParam != 0 || message.lParam == 0 || !isVisible())
-        return;
-    const auto& files = *std::bit_cast<const QStringList*>(message.lParam);
-    if (files.size() == 1 && hasCurrent())
-        replaceBy(current(), QString(files.first()));
+    const bool isDrop = message.name == notify::Notify_Drag_File && message.wParam == 0 && message.lParam != 0;
+    if (isDrop && !message.async && isVisible())
+        takeDropped(current(), QStringList(*std::bit_cast<const QStringList*>(message.lParam)));
 }
 
 bool CFullListPage::eventFilter(QObject* watched, QEvent* event) {

@@ -1,7 +1,6 @@
 #include "editor/fullListPage.h"
 #include "editor/keyDetails.h"
 #include "editor/keyEditor.h"
-#include "kit/colourText.h"
 #include "kit/emptyState.h"
 #include "kit/icons.h"
 #include "kit/kitStyle.h"
@@ -27,10 +26,6 @@ constexpr int headHeight = 24;
 constexpr int headInset = 4;            ///< Of the button's text.
 constexpr int editorInset = 9;          ///< The fields begin before the value, so that the digits stay where they are.
 constexpr int widthForBothCounts = 600; ///< In a narrower bar the search needs the room.
-
-std::optional<QColor> colourOfRow(const KeyRow& row) {
-    return row.kind == KeyKind::colour ? colourOf(QString::fromStdString(row.value())) : std::nullopt;
-}
 
 } // namespace
 
@@ -70,7 +65,7 @@ void CFullListPage::showRange() {
 }
 
 void CFullListPage::showHint() {
-    const QString reason = _editor->cutReason();
+    const QString reason = _editor->hasReason() ? _editor->cutReason() : _lost;
     _hint.setText(reason.isEmpty() ? Text("kList_hint") : reason);
     setStyleProperty(&_hint, "state", reason.isEmpty() ? "" : "error");
 }
@@ -122,7 +117,10 @@ void CFullListPage::placeEditor() {
 void CFullListPage::showCurrent() {
     if (hasCurrent()) {
         const KeyRow& row = _table.row(current());
+        if (_editor->hasReason() && row.key != _edited)
+            _lost = Text("kList_not_stored").arg(_editedName, _editor->reason());
         _current = row.key;
+        _editedName = _table.words(current()).name;
         _edited = isFile(row.kind) ? std::string() : row.key;
         const std::optional<QColor> colour = colourOfRow(row);
         _editor->setResettable(canReset(row, _table.isChanged(current())));
@@ -137,12 +135,12 @@ void CFullListPage::showCurrent() {
 
 void CFullListPage::showDetails() {
     const bool has = hasCurrent();
-    for (QWidget* part : {static_cast<QWidget*>(_preview), static_cast<QWidget*>(_facts)})
-        part->setVisible(has);
+    _facts->setVisible(has);
+    _preview->setVisible(has);
     _nothing->setVisible(!has);
     _name.setText(has ? _table.words(current()).name : QString());
     const KeyRow* row = has ? &_table.row(current()) : nullptr;
-    _replace.setVisible(row && isFile(row->kind));
+    _replace.setVisible(row && isFile(row->kind) && !row->isDrawn);
     _edit.setVisible(row && row->kind == KeyKind::colour);
     _reset.setVisible(row && canReset(*row, _table.isChanged(current())));
     if (!row || !theme())
@@ -150,6 +148,14 @@ void CFullListPage::showDetails() {
     _editor->setResettable(canReset(*row, _table.isChanged(current())));
     _facts->setFacts(factsOf(*row, _table.words(current()), differingCopies(*row)));
     showPreview();
+}
+
+void CFullListPage::clearDetails() {
+    for (QWidget* part :
+         {static_cast<QWidget*>(_facts), static_cast<QWidget*>(_preview), static_cast<QWidget*>(_nothing),
+          static_cast<QWidget*>(&_replace), static_cast<QWidget*>(&_edit), static_cast<QWidget*>(&_reset)})
+        part->hide();
+    _name.setText({});
 }
 
 void CFullListPage::showPreview() {

@@ -1,19 +1,25 @@
 #include "editor/keyChange.h"
 
+#include "editor/keyDefaults.h"
+#include "editor/previewRender.h"
 #include "lockscreen/unlockConfigNode.h"
 #include "model/resNode.h"
 #include "model/returnCode.h"
+#include "modules/themeNode.h"
 #include "packaging/pictureCheck.h"
 #include "packaging/pictureConversion.h"
 #include "packaging/uploadMessages.h"
 #include "packaging/videoLimits.h"
 #include "store/themeResource.h"
+#include "support/atomicFile.h"
 #include "support/files.h"
 #include "support/text.h"
 
+#include <QImage>
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -23,8 +29,14 @@ namespace {
 
 constexpr std::uint64_t bytesPerKilobyte = 1024;
 const KeyPath lockVideo{"unlock", "video", "image_set"};
-constexpr const char* lockStyle = "unlock/config/style";
 constexpr const char* lockFolder = "unlock/config/dynamicPath";
+
+/// Those that a text alone makes: a custom one needs its package.
+constexpr std::array lockKinds{unlockType::slide, unlockType::magazine, unlockType::amazing, unlockType::video};
+
+bool isLockKind(const std::string& value) {
+    return std::find(lockKinds.begin(), lockKinds.end(), value) != lockKinds.end();
+}
 
 bool isSetOrAbsent(int code) {
     return code == returnCode::success || code == returnCode::notFound;
@@ -51,45 +63,68 @@ int refusalOf(const ThemeResource& theme, const KeyRow& row, const std::string& 
     return returnCode::success;
 }
 
-/// The values of a row's places, to go back to. Those of files are copies, for the files themselves are overwritten.
+/// What a row's places hold, to go back to. Files are copied, for they are overwritten themselves.
 class OldValues {
 public:
-    OldValues(const ThemeResource& theme, const KeyRow& row) {
+    OldValues(const ThemeResource& theme, const KeyRow& row)
+        : _areFiles(isFile(row.kind)) {
+        if (_areFiles)
+            _folder.emplace();
         for (const KeyPlace& place : row.places) {
-            const std::string value = theme.getValueNth(place.path(), place.number);
-            _values.push_back(isFile(row.kind) ? copyOf(value) : value);
+            Old old{theme.getValueNth(place.path(), place.number), theme.tree().path() + place.file, {}};
+            // A file that doesn't fit its place is no value, but it is there all the same.
+            if (_areFiles && isPlainFile(old.file))
+                keep(old);
+            _old.push_back(old);
         }
     }
+
+    /// Whether there is a way back for every place.
+    [[nodiscard]] bool isWhole() const { return _isWhole; }
 
     /// Puts the first `count` places back. What can't be written now still can't be.
     void restore(ThemeResource& theme, const KeyRow& row, std::size_t count) const {
         for (std::size_t index = 0; index < count; ++index) {
             const KeyPlace& place = row.places[index];
-            if (isFile(row.kind) && _values[index].empty())
-                static_cast<void>(theme.clearFile(place.path()));
-            else
-                static_cast<void>(setPlace(theme, place, _values[index]));
+            const Old& old = _old[index];
+            if (!_areFiles || !old.value.empty()) {
+                static_cast<void>(setPlace(theme, place, _areFiles ? old.copy : old.value));
+                continue;
+            }
+            const bool isCleared = theme.clearFileNth(place.path(), place.number) == returnCode::success;
+            if (isCleared && !old.copy.empty())
+                static_cast<void>(copyFile(old.copy, old.file));
         }
     }
 
 private:
-    std::string copyOf(const std::string& file) {
-        if (file.empty())
-            return file;
-        const std::string copy = _folder.filePath(QString::number(_values.size())).toStdString() + extension(file);
-        return copyFile(file, copy) ? copy : std::string();
+    struct Old {
+        std::string value;
+        std::string file;
+        std::string copy; ///< Empty if there was no file.
+    };
+
+    void keep(Old& old) {
+        const std::string name = std::to_string(_old.size()) + extension(old.file);
+        old.copy = _folder->filePath(QString::fromStdString(name)).toStdString();
+        _isWhole = _isWhole && _folder->isValid() && copyFile(old.file, old.copy);
     }
 
-    QTemporaryDir _folder;
-    std::vector<std::string> _values;
+    bool _areFiles;
+    bool _isWhole = true;
+    std::optional<QTemporaryDir> _folder;
+    std::vector<Old> _old;
 };
 
-/// `set` for each place. A failure puts those before it back; one alone is left as it was by the store.
+/// `set` for each place; nothing where there would be no way back. A failure puts those before it back; one alone is
+/// left as it was by the store.
 template <typename Set>
 int setAll(ThemeResource& theme, const KeyRow& row, Set set) {
     std::optional<OldValues> before;
     if (row.hasCopies())
         before.emplace(theme, row);
+    if (before && !before->isWhole())
+        return returnCode::copyFailed;
     for (std::size_t index = 0; index < row.places.size(); ++index) {
         if (const int code = set(row.places[index]); !isSetOrAbsent(code)) {
             if (before)
@@ -116,8 +151,8 @@ bool isSafe(const KeyRow& row, const std::string& value) {
 }
 
 int changeText(ThemeResource& theme, const KeyRow& row, const std::string& value) {
-    if (row.key == lockStyle)
-        return theme.setLockScreenType(value);
+    if (row.key == lockStyleKey)
+        return isLockKind(value) ? theme.setLockScreenType(value) : returnCode::notAllowed;
     if (!isSafe(row, value))
         return returnCode::notAllowed;
     if (const int code = refusalOf(theme, row, value))
@@ -147,6 +182,21 @@ bool fits(const KeyRow& row, const PictureCheck& picture) {
            });
 }
 
+/// Sets a JPEG made of a picture, of the best quality that keeps it within a number of bytes.
+FileRefusal replaceByJpeg(ThemeResource& theme, const KeyRow& row, const std::string& file, std::uint64_t maxBytes) {
+    const QImage picture = loadPicture(file);
+    if (picture.isNull())
+        return {returnCode::unreadablePicture, {}};
+    const std::string bytes = encodeWithin(picture, maxBytes);
+    if (bytes.empty())
+        return {returnCode::wrongByteSize, {}};
+    const QTemporaryDir folder;
+    const std::string jpeg = folder.filePath("picture.jpg").toStdString();
+    if (!folder.isValid() || !writeFile(jpeg, bytes))
+        return {returnCode::copyFailed, {}};
+    return {changeKey(theme, row, jpeg), {}};
+}
+
 FileRefusal replacePicture(ThemeResource& theme, const KeyRow& row, const std::string& file) {
     constexpr const char* plainWanted = "kWarn_replace_right_format_picture";
     const std::uint64_t limit = row.maxBytes > 0 ? row.maxBytes / bytesPerKilobyte : pictureLimit;
@@ -159,13 +209,7 @@ FileRefusal replacePicture(ThemeResource& theme, const KeyRow& row, const std::s
         return {changeKey(theme, row, file), {}};
     if (!fits(row, check))
         return {returnCode::wrongDimensions, {}};
-    const QTemporaryDir folder;
-    const std::string jpeg = folder.filePath("picture.jpg").toStdString();
-    if (!folder.isValid() || !copyFile(file, jpeg))
-        return {returnCode::copyFailed, {}};
-    if (!EncodeJpegInPlace(jpeg, ordinaryJpegQuality))
-        return {returnCode::unreadablePicture, {}};
-    return {changeKey(theme, row, jpeg), {}};
+    return replaceByJpeg(theme, row, file, limit * bytesPerKilobyte);
 }
 
 FileRefusal replaceVideo(ThemeResource& theme, const KeyRow& row, const std::string& file) {
@@ -197,21 +241,25 @@ int restoreKey(ThemeResource& theme, const KeyRow& row) {
 bool canReset(const KeyRow& row, bool changed) {
     if (!changed)
         return false;
-    return !isFile(row.kind) || !row.fallback().empty() || (row.optional && !row.value().empty());
+    if (!isFile(row.kind))
+        return true;
+    return !row.isDrawn && (isPlainFile(row.fallback()) || (row.optional && !row.value().empty()));
 }
 
 int resetKey(ThemeResource& theme, const KeyRow& row) {
     if (!isFile(row.kind))
         return changeText(theme, row, row.fallback());
     return setAll(theme, row, [&](const KeyPlace& place) {
-        if (place.fallback.empty() && row.optional)
-            return theme.clearFile(place.path());
+        if (row.optional && !isPlainFile(place.fallback))
+            return theme.clearFileNth(place.path(), place.number);
         ResNode* leaf = theme.findNthNode(place.path(), place.number);
         return leaf ? theme.restoreDefault(leaf) : returnCode::notFound;
     });
 }
 
 FileRefusal replaceFile(ThemeResource& theme, const KeyRow& row, const std::string& file) {
+    if (row.isDrawn)
+        return {0, "kList_drawn"};
     if (row.kind == KeyKind::picture)
         return replacePicture(theme, row, file);
     if (row.kind == KeyKind::video)

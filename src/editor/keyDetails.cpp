@@ -1,6 +1,7 @@
 #include "editor/keyDetails.h"
 
 #include "editor/keyListSource.h"
+#include "editor/moduleWords.h"
 #include "kit/checker.h"
 #include "kit/colourText.h"
 #include "kit/localisation.h"
@@ -148,6 +149,8 @@ std::vector<KeyFact> factsOf(const KeyRow& row, const KeyWords& words,
             facts.push_back({Text(label), value, {}, isMono});
     };
     add("kList_fact_meaning", words.meaning);
+    if (row.isDrawn)
+        add("kList_fact_origin", Text("kList_drawn"));
     facts.push_back(valueFact("kList_fact_value", row, row.value()));
     facts.push_back(valueFact("kList_fact_default", row, row.fallback()));
     add("kList_fact_file", QString::fromStdString(row.places.front().file), true);

@@ -50,6 +50,8 @@ KeyEditor::KeyEditor(QWidget* parent)
     _reasonIcon->setPixmap(iconPixmap(Icon::Error, token::danger, reasonIconSide, devicePixelRatioF()));
     for (QWidget* field : {static_cast<QWidget*>(_hex), static_cast<QWidget*>(_percent), static_cast<QWidget*>(_text)})
         field->installEventFilter(this);
+    for (const QLineEdit* field : {static_cast<QLineEdit*>(_hex), static_cast<QLineEdit*>(_percent), _text})
+        connect(field, &QLineEdit::textEdited, this, &KeyEditor::edited);
     connect(_reset, &QPushButton::clicked, this, &KeyEditor::resetClicked);
     showReason({});
     relabel();
@@ -107,8 +109,8 @@ void KeyEditor::showReason(const QString& reason) {
     emit reasonChanged();
 }
 
-bool KeyEditor::hasReason() const {
-    return !_reason->text().isEmpty();
+QString KeyEditor::reason() const {
+    return _reason->text();
 }
 
 QString KeyEditor::cutReason() const {

@@ -34,7 +34,8 @@ public:
     }
     /// Why the value wasn't stored. The fields stay as they are, in their error state.
     void showReason(const QString& reason);
-    [[nodiscard]] bool hasReason() const;
+    [[nodiscard]] QString reason() const;
+    [[nodiscard]] bool hasReason() const { return !reason().isEmpty(); }
     /// The reason, if the row is too narrow for it.
     [[nodiscard]] QString cutReason() const;
 
@@ -50,6 +51,8 @@ public:
     void relabel();
 
 signals:
+    /// The author types.
+    void edited();
     /// Another reason, or none any more.
     void reasonChanged();
     /// A new value, in the theme's form, or one that no field could hold: then `value` is empty and `isWhole` false.

@@ -1,37 +1,50 @@
 #include "editor/keyListSource.h"
 
+#include "editor/fileWords.h"
 #include "kit/colourText.h"
 #include "kit/localisation.h"
 #include "model/pictureSize.h"
+#include "modules/themeNode.h"
 #include "store/themeResource.h"
+#include "support/fileComparison.h"
 #include "support/files.h"
+
+#include <QCache>
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 namespace zdt {
 
 namespace {
 
 constexpr int opaque = 255;
+constexpr int mostFacts = 4096;
 
 PictureSize sizeOf(const std::string& path) {
     const PictureSize png = pngSize(path);
     return png == PictureSize() ? jpegSize(path) : png;
 }
 
+} // namespace
+
 std::optional<QColor> colourOfRow(const KeyRow& row) {
     return row.kind == KeyKind::colour ? colourOf(QString::fromStdString(row.value())) : std::nullopt;
 }
 
-} // namespace
-
 QString fileFacts(const std::string& path) {
-    if (path.empty() || !isPlainFile(path))
+    static QCache<QString, QString> read(mostFacts);
+    const QString stamp = QString::fromStdString(fileStamp(path));
+    if (stamp.isEmpty() || !isPlainFile(path))
         return {};
-    const QString bytes = bytesWords(fileSize(path));
+    if (const QString* known = read.object(stamp))
+        return *known;
+    const std::string bytes = bytesText(fileSize(path));
     const PictureSize size = sizeOf(path);
-    return size == PictureSize() ? bytes : QString("%1 × %2, %3").arg(size.width).arg(size.height).arg(bytes);
+    const QString facts = QString::fromStdString(size == PictureSize() ? bytes : pixelsText(size) + ", " + bytes);
+    read.insert(stamp, new QString(facts));
+    return facts;
 }
 
 KeyListSource::KeyListSource(QObject* parent)
@@ -44,13 +57,24 @@ KeyListSource::KeyListSource(QObject* parent)
             emit changed(0, count() - 1);
         emit counted();
     });
-    connect(&_thumbnails, &Thumbnails::ready, this, [this] {
-        if (count() > 0)
-            emit changed(0, count() - 1);
-    });
+    connect(&_thumbnails, &Thumbnails::ready, this, &KeyListSource::showPictures);
+}
+
+void KeyListSource::showPictures(const QStringList& files) {
+    std::set<std::string> made;
+    for (const QString& file : files)
+        made.insert(file.toStdString());
+    for (int index = 0; index < count(); ++index) {
+        if (row(index).kind == KeyKind::picture && made.contains(row(index).value()))
+            emit changed(index, index);
+    }
 }
 
 void KeyListSource::load(const ThemeResource* theme) {
+    const std::string directory = theme ? theme->tree().path() : std::string();
+    if (directory != _theme)
+        _changes.forget();
+    _theme = directory;
     _rows = theme ? keyRowsOf(*theme) : std::vector<KeyRow>();
     _words.assign(_rows.size(), {});
     _hasWords.assign(_rows.size(), false);

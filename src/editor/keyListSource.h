@@ -74,8 +74,10 @@ private:
     void findChange(std::size_t at);
     void findChanges();
     void choose();
+    void showPictures(const QStringList& files);
     void fillFile(KeyCellContent& content, const KeyRow& row, double ratio);
 
+    std::string _theme; ///< The directory of the theme that is shown.
     std::vector<KeyRow> _rows;
     // Found out for the rows that are shown or searched, not for all at once.
     mutable std::vector<KeyWords> _words;
@@ -89,7 +91,12 @@ private:
     Thumbnails _thumbnails;
 };
 
+/// The colour of a row of one; nothing for another row, or a value that is no colour.
+[[nodiscard]] std::optional<QColor> colourOfRow(const KeyRow& row);
+
 /// The pixels and the bytes of a picture that stands at a path, or its bytes alone for another file; empty for none.
+/// What was read is kept for the state that the file is in, so that it may be asked for at will on the interface
+/// thread.
 [[nodiscard]] QString fileFacts(const std::string& path);
 
 } // namespace zdt

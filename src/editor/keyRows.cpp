@@ -1,21 +1,16 @@
 #include "editor/keyRows.h"
 
 #include "editor/keyWalk.h"
+#include "editor/moduleWords.h"
 #include "model/resNode.h"
 #include "store/themeResource.h"
 #include "support/fileComparison.h"
 
 #include <algorithm>
-#include <array>
 
 namespace zdt {
 
 namespace {
-
-/// As in the navigation; what it doesn't have follows.
-constexpr std::array<const char*, 12> moduleOrder{sharedModule, "launcher",  "contacts", "mms",
-                                                  "systemui",   "phone",     "recorder", "telecom",
-                                                  "icons",      "wallpaper", "unlock",   "preview"};
 
 std::string comparable(const std::string& colour) {
     constexpr std::size_t withAlpha = 9;
@@ -36,7 +31,11 @@ KeyPath KeyPlace::path() const {
 }
 
 std::string KeyPlace::key() const {
-    const std::string text = joinKeyPath(path());
+    return keyText(joinKeyPath(block), name, number);
+}
+
+std::string keyText(const std::string& block, const std::string& name, int number) {
+    const std::string text = block + "/" + name;
     return number == 1 ? text : text + "#" + std::to_string(number);
 }
 
@@ -67,13 +66,13 @@ bool sameText(KeyKind kind, const std::string& one, const std::string& other) {
 }
 
 std::vector<std::string> modulesOf(const std::vector<KeyRow>& rows) {
-    std::vector<std::string> modules(moduleOrder.begin(), moduleOrder.end());
+    std::vector<std::string> modules;
     for (const KeyRow& row : rows) {
         if (std::find(modules.begin(), modules.end(), row.module) == modules.end())
             modules.push_back(row.module);
     }
-    std::erase_if(modules, [&](const std::string& module) {
-        return std::none_of(rows.begin(), rows.end(), [&](const KeyRow& row) { return row.module == module; });
+    std::stable_sort(modules.begin(), modules.end(), [](const std::string& one, const std::string& other) {
+        return placeOfModule(one) < placeOfModule(other);
     });
     return modules;
 }

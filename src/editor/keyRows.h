@@ -21,13 +21,16 @@ enum class KeyKind { colour, text, picture, video, file };
     return kind == KeyKind::picture || kind == KeyKind::video || kind == KeyKind::file;
 }
 
+/// The key of a leaf: the path of its block, its name, and for a namesake its number.
+[[nodiscard]] std::string keyText(const std::string& block, const std::string& name, int number);
+
 /// A leaf of a theme's tree: where it stands, and what it holds.
 struct KeyPlace {
     KeyPath block;
     std::string name;
     int number = 1;       ///< Among its namesakes, counted from 1.
     std::string value;    ///< A text, colour or the path of a file.
-    std::string fallback; ///< The template's value; for a file its path there, empty without one.
+    std::string fallback; ///< The template's value; for a file its path there, whether there is one or not.
     std::string file;     ///< That holds it, relative to the theme directory.
 
     /// The path that it shares with its namesakes.
@@ -35,9 +38,6 @@ struct KeyPlace {
     /// As `keyTextOf` gives it.
     [[nodiscard]] std::string key() const;
 };
-
-/// The module under which the keys are listed that every application has a copy of.
-inline constexpr const char* sharedModule = "commonSetting";
 
 /// A key or file of a theme as the full list shows it. A shared key is one row for all its copies.
 struct KeyRow {
@@ -52,6 +52,7 @@ struct KeyRow {
     std::uint64_t maxBytes = 0;   ///< 0 means no limit.
     std::vector<SizeRange> sizes; ///< Pixels; none means any.
     bool optional = false;        ///< Whether the theme may do without it.
+    bool isDrawn = false;         ///< Whether the program draws it, so that no other is taken.
 
     [[nodiscard]] const std::string& name() const { return places.front().name; }
     [[nodiscard]] const std::string& value() const { return places.front().value; }

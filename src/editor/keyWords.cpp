@@ -1,16 +1,12 @@
 #include "editor/keyWords.h"
 
+#include "editor/fileWords.h"
+#include "editor/moduleWords.h"
 #include "kit/localisation.h"
-#include "model/returnCode.h"
-
-#include <cstdlib>
 
 namespace zdt {
 
 namespace {
-
-constexpr std::uint64_t kilobyte = 1024;
-constexpr std::uint64_t megabyte = kilobyte * kilobyte;
 
 QString shown(const std::string& text) {
     return QString::fromStdString(text);
@@ -29,10 +25,6 @@ QStringList itemWords(const std::string& item) {
     while (words.size() < 3)
         words.append(QString());
     return words;
-}
-
-QString rangeWords(std::uint32_t least, std::uint32_t end) {
-    return end == least + 1 ? QString::number(least) : QString("%1–%2").arg(least).arg(end - 1);
 }
 
 } // namespace
@@ -59,41 +51,20 @@ KeyWords wordsOf(const KeyRow& row) {
     return words;
 }
 
-QString moduleWord(const std::string& module) {
-    const QString word = KeyedText(shown(module));
-    return word.isEmpty() ? shown(module) : word;
-}
-
 QString listSeparator() {
     return GetLanguage() == chineseLanguage ? QString(QChar(0x3001)) : QString(", ");
 }
 
 QString bytesWords(std::uint64_t bytes) {
-    if (bytes >= megabyte) {
-        const QString number = QString::number(static_cast<double>(bytes) / static_cast<double>(megabyte), 'f', 1);
-        return (number.endsWith(".0") ? number.chopped(2) : number) + " MB";
-    }
-    if (bytes >= kilobyte)
-        return QString::number((bytes + kilobyte / 2) / kilobyte) + " KB";
-    return TextWith("kList_bytes", static_cast<int>(bytes));
+    return shown(bytesText(bytes));
 }
 
 QString kindWords(const KeyRow& row) {
-    QStringList kinds;
-    if (row.kind == KeyKind::video)
-        kinds.append("MP4");
-    if ((row.kinds & fileKind::png) != 0)
-        kinds.append("PNG");
-    if ((row.kinds & fileKind::jpeg) != 0)
-        kinds.append("JPG");
-    return kinds.join(listSeparator());
+    return row.kind == KeyKind::video ? QString("MP4") : shown(kindsText(row.kinds));
 }
 
 QString sizeWords(const KeyRow& row) {
-    QStringList sizes;
-    for (const SizeRange& size : row.sizes)
-        sizes.append(rangeWords(size.minWidth, size.widthLimit) + " × " + rangeWords(size.minHeight, size.heightLimit));
-    return sizes.join(listSeparator());
+    return shown(sizesText(row.sizes));
 }
 
 QString allowedWords(const KeyRow& row) {
@@ -103,11 +74,6 @@ QString allowedWords(const KeyRow& row) {
     if (row.maxBytes > 0)
         addOnce(allowed, TextWith("kList_at_most", bytesWords(row.maxBytes)));
     return allowed.join(listSeparator());
-}
-
-QString reasonWords(int code) {
-    const QString words = Text("kProblem_" + QString::number(std::abs(code)));
-    return words.isEmpty() ? Text("kProblem_" + QString::number(-returnCode::copyFailed)) : words;
 }
 
 } // namespace zdt

@@ -22,16 +22,13 @@ struct KeyWords {
 
 [[nodiscard]] KeyWords wordsOf(const KeyRow& row);
 
-/// The word of a module of rows.
-[[nodiscard]] QString moduleWord(const std::string& module);
-
 /// What stands between the parts of a list.
 [[nodiscard]] QString listSeparator();
 
-/// A number of bytes for the eye: "312 bytes", "48 KB", "1.2 MB".
+/// A number of bytes for the eye: "312 B", "48 KB", "1.2 MB".
 [[nodiscard]] QString bytesWords(std::uint64_t bytes);
 
-/// The file kinds of a row, as "PNG, JPG"; empty for one that takes any.
+/// The file kinds of a row, as "PNG / JPG"; empty for one that takes any.
 [[nodiscard]] QString kindWords(const KeyRow& row);
 
 /// The pixel sizes of a row, as "192 × 192" or a range; empty where any is taken.
@@ -39,8 +36,5 @@ struct KeyWords {
 
 /// The kinds, sizes and bytes that a file's place takes, in one line.
 [[nodiscard]] QString allowedWords(const KeyRow& row);
-
-/// The reason behind a code of the store; that of -3 for a code that has none.
-[[nodiscard]] QString reasonWords(int code);
 
 } // namespace zdt

@@ -1,5 +1,6 @@
 #include "editor/problemCell.h"
 
+#include "editor/moduleWords.h"
 #include "editor/problemWords.h"
 #include "kit/checker.h"
 #include "kit/labels.h"
@@ -127,7 +128,6 @@ QPushButton* ProblemCell::makeButton(const char* name, int width) {
 }
 
 void ProblemCell::fill(const ProblemRow& row, const QPixmap& picture, CardPlace place) {
-    _kind = row.kind;
     _place = place;
     _thumbnail->show(row, picture);
     _reason->setText(reasonText(row.reason));
@@ -180,10 +180,8 @@ void ProblemCell::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(card, token::radiusCard, token::radiusCard);
     if (!_place.last)
         painter.fillRect(QRect(1, rect().bottom(), width() - 2, 1), token::hairlineRow);
-    const bool mustFix = _kind == ProblemKind::mustFix;
     const double middle = (QWidget::height() + (_place.first ? 0 : -1)) / 2.0;
-    paintIcon(painter, QRectF(padding, middle - iconSide / 2.0, iconSide, iconSide),
-              mustFix ? Icon::Error : Icon::Warning, mustFix ? token::danger : token::warn);
+    paintIcon(painter, QRectF(padding, middle - iconSide / 2.0, iconSide, iconSide), Icon::Error, token::danger);
 }
 
 ProblemHead::ProblemHead(QWidget* parent)
@@ -209,8 +207,8 @@ ProblemHead::ProblemHead(QWidget* parent)
 
 void ProblemHead::fill(const std::string& group, int count) {
     constexpr int side = 18;
-    _icon->setPixmap(iconPixmap(groupIcon(group), token::iconPlain, side, devicePixelRatioF()));
-    _name->setText(groupText(group));
+    _icon->setPixmap(iconPixmap(moduleIcon(group), token::iconPlain, side, devicePixelRatioF()));
+    _name->setText(moduleWord(group));
     _count->setText(QString::number(count));
 }
 

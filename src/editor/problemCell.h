@@ -63,7 +63,6 @@ private:
     void sayDetail();
     QPushButton* makeButton(const char* name, int width);
 
-    ProblemKind _kind = ProblemKind::mustFix;
     CardPlace _place;
     CellState _state;
     QString _detailWords;

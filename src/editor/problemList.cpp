@@ -1,5 +1,6 @@
 #include "editor/problemList.h"
 
+#include "editor/moduleWords.h"
 #include "editor/problemCell.h"
 #include "editor/problemWords.h"
 
@@ -60,7 +61,7 @@ int ProblemList::rowHeight(int index) const {
 QString ProblemList::accessibleName(int index) const {
     const ProblemRow* row = rowAt(index);
     if (!row)
-        return groupText(line(index).group);
+        return moduleWord(line(index).group);
     return reasonText(row->reason) + " " + QString::fromStdString(row->detail) + ", " + placeText(*row);
 }
 

@@ -1,5 +1,6 @@
 #include "editor/problemPage.h"
 
+#include "editor/codeWords.h"
 #include "editor/problemList.h"
 #include "editor/problemRestore.h"
 #include "editor/problemWords.h"
@@ -7,7 +8,7 @@
 #include "kit/emptyState.h"
 #include "kit/listView.h"
 #include "kit/localisation.h"
-#include "kit/messageBoxDlg.h"
+#include "kit/messageBoxes.h"
 #include "kit/notificationNames.h"
 #include "kit/tokens.h"
 
@@ -20,7 +21,6 @@
 #include <QTime>
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 namespace zdt {
@@ -47,26 +47,22 @@ CProblemPage::CProblemPage(Workbench& bench, QWidget* parent)
 
 void CProblemPage::makeChips() {
     using Subject = ProblemSubject;
-    const std::pair<const char*, Choice> chips[]{
+    const std::pair<const char*, std::optional<Subject>> chips[]{
         {"problemAll", {}},
-        {"problemMustFix", {ProblemKind::mustFix, {}}},
-        {"problemWorthALook", {ProblemKind::worthALook, {}}},
-        {"problemPictures", {{}, Subject::pictures}},
-        {"problemColours", {{}, Subject::colours}},
-        {"problemTexts", {{}, Subject::texts}},
-        {"problemFiles", {{}, Subject::files}},
-        {"problemLayouts", {{}, Subject::layout}},
+        {"problemPictures", Subject::pictures},
+        {"problemColours", Subject::colours},
+        {"problemTexts", Subject::texts},
+        {"problemFiles", Subject::files},
+        {"problemLayouts", Subject::layout},
     };
-    for (const auto& [name, choice] : chips) {
+    for (const auto& [name, subject] : chips) {
         auto* chip = &control<ZCountChip>(name);
-        _chips.push_back({chip, choice});
+        _chips.push_back({chip, subject});
         connect(chip, &ZCountChip::toggled, this, [this](bool on) {
             if (on)
                 applyChoice();
         });
     }
-    control<ZCountChip>("problemMustFix").setMark(Icon::Error, token::danger);
-    control<ZCountChip>("problemWorthALook").setMark(Icon::Warning, token::warn);
     _chips.front().chip->setChecked(true);
 }
 
@@ -131,33 +127,22 @@ void CProblemPage::say() {
     keepBarInside();
 }
 
-int CProblemPage::countOf(const Choice& choice) const {
-    const auto count = std::count_if(_rows.begin(), _rows.end(), [&](const ProblemRow& row) {
-        return (!choice.kind || row.kind == *choice.kind) && (!choice.subject || row.subject == *choice.subject);
-    });
-    return static_cast<int>(count);
-}
-
-/// A chip that shows nothing is left out, and so are the kinds where there is but one.
+/// A chip that shows nothing is left out.
 void CProblemPage::sayChips() {
-    const bool hasKinds = countOf({ProblemKind::mustFix, {}}) > 0 && countOf({ProblemKind::worthALook, {}}) > 0;
     for (const Chip& each : _chips) {
-        const int count = countOf(each.choice);
-        each.chip->setCount(count);
-        each.chip->setVisible(count > 0 && (!each.choice.kind || hasKinds));
-        if (each.chip->isHidden() && each.chip->isChecked())
+        const auto count =
+            std::count_if(_rows.begin(), _rows.end(), [&](const ProblemRow& row) { return each.shows(row); });
+        each.chip->setCount(static_cast<int>(count));
+        each.chip->setVisible(count > 0);
+        if (count == 0 && each.chip->isChecked())
             _chips.front().chip->setChecked(true);
     }
-    control<QWidget>("problemKindLine").setVisible(hasKinds);
 }
 
 void CProblemPage::applyChoice() {
     const auto chosen =
         std::find_if(_chips.begin(), _chips.end(), [](const Chip& each) { return each.chip->isChecked(); });
-    const Choice choice = chosen == _chips.end() ? Choice() : chosen->choice;
-    _list->show(_rows, [&](const ProblemRow& row) {
-        return (!choice.kind || row.kind == *choice.kind) && (!choice.subject || row.subject == *choice.subject);
-    });
+    _list->show(_rows, [&](const ProblemRow& row) { return chosen == _chips.end() || chosen->shows(row); });
 }
 
 /// Where the bar is short of room, the time of the check goes first.
@@ -234,15 +219,6 @@ bool CProblemPage::mayRestore(const ProblemRow& row) {
     return ZMessageBoxDlg::ask(question, Text, this);
 }
 
-void CProblemPage::tellFailure(int code) {
-    ZMessageBoxDlg::Message message;
-    message.kind = ZMessageBoxDlg::Kind::Warning;
-    message.titleKey = "kDialog_Title_Waning_Info";
-    message.textKey = "kProblem_" + QString::number(std::abs(code));
-    message.acceptKey = "kConfirm";
-    ZMessageBoxDlg::tell(message, Text, this);
-}
-
 void CProblemPage::restore(int index) {
     const ProblemRow* row = _list->rowAt(index);
     if (!row || !theme())
@@ -252,7 +228,7 @@ void CProblemPage::restore(int index) {
     if (!mayRestore(mended) || !theme())
         return;
     if (const int code = restoreProblem(*theme(), mended.problem)) {
-        tellFailure(code);
+        tellNote(this, codeKey(code));
         return;
     }
     followRestored(_list->indexOf(mended.problem));
@@ -261,7 +237,6 @@ void CProblemPage::restore(int index) {
 
 /// The row behind the mended one becomes current, else the one before it.
 void CProblemPage::followRestored(int index) {
-    const bool hadFocus = _view.isAncestorOf(QApplication::focusWidget());
     int next = index + 1;
     while (next < _list->count() && !_list->isSelectable(next))
         ++next;
@@ -270,8 +245,8 @@ void CProblemPage::followRestored(int index) {
         --before;
     const ProblemRow* row = _list->rowAt(next < _list->count() ? next : before);
     _wanted = row ? std::optional(row->problem) : std::nullopt;
-    if (hadFocus)
-        _view.setFocus();
+    // So that Delete goes on, whatever began it.
+    _view.setFocus();
 }
 
 } // namespace zdt

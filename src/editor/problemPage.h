@@ -55,14 +55,11 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    /// What a chip lets through; both empty for all.
-    struct Choice {
-        std::optional<ProblemKind> kind;
-        std::optional<ProblemSubject> subject;
-    };
     struct Chip {
         ZCountChip* chip;
-        Choice choice;
+        std::optional<ProblemSubject> subject; ///< That it lets through; nothing for all.
+
+        [[nodiscard]] bool shows(const ProblemRow& row) const { return !subject || row.subject == *subject; }
     };
 
     void makeChips();
@@ -71,7 +68,6 @@ private:
     void say();
     void sayChips();
     void keepBarInside();
-    [[nodiscard]] int countOf(const Choice& choice) const;
     void applyChoice();
     void makeCurrent(const std::optional<Problem>& wanted, int index);
     [[nodiscard]] std::optional<Problem> currentProblem() const;
@@ -79,7 +75,6 @@ private:
     void goTo(int index);
     void restore(int index);
     [[nodiscard]] bool mayRestore(const ProblemRow& row);
-    void tellFailure(int code);
     void followRestored(int index);
 
     QLabel& _title;

@@ -1,5 +1,6 @@
 #include "editor/problemReasons.h"
 
+#include "editor/fileWords.h"
 #include "model/returnCode.h"
 #include "modules/themeNode.h"
 #include "support/files.h"
@@ -12,29 +13,6 @@
 namespace zdt {
 
 namespace {
-
-/// With a dot, however the system writes numbers.
-std::string tenths(std::uint64_t tenth) {
-    const std::string whole = std::to_string(tenth / 10);
-    return tenth % 10 == 0 ? whole : whole + "." + std::to_string(tenth % 10);
-}
-
-std::string kindsText(std::uint32_t kinds) {
-    std::string text;
-    if (kinds & fileKind::png)
-        text = "PNG";
-    if (kinds & fileKind::jpeg)
-        text += text.empty() ? "JPG" : " / JPG";
-    return text;
-}
-
-/// Every place of a theme takes exact sizes alone.
-std::string sizesText(const std::vector<SizeRange>& sizes) {
-    std::string text;
-    for (const SizeRange& size : sizes)
-        text += (text.empty() ? "" : " / ") + std::to_string(size.minWidth) + "*" + std::to_string(size.minHeight);
-    return text;
-}
 
 /// What the place takes, as far as there are words for it.
 void addNeed(std::vector<Sentence>& reason, const FileFacts& facts) {
@@ -54,8 +32,7 @@ std::vector<Sentence> byteReason(const FileFacts& facts) {
 }
 
 std::vector<Sentence> sizeReason(const FileFacts& facts) {
-    const std::string is = std::to_string(facts.size.width) + "*" + std::to_string(facts.size.height);
-    return {{"kProblems_is_size", is}, {"kProblems_takes", sizesText(facts.sizes)}};
+    return {{"kProblems_is_size", pixelsText(facts.size)}, {"kProblems_takes", sizesText(facts.sizes)}};
 }
 
 std::vector<Sentence> unreadableReason(const FileFacts& facts) {
@@ -109,17 +86,6 @@ std::vector<Sentence> knownReason(const ThemeResource& theme, const Problem& pro
 }
 
 } // namespace
-
-std::string bytesText(std::uint64_t bytes) {
-    constexpr std::uint64_t kilo = 1024;
-    constexpr std::uint64_t mega = kilo * kilo;
-    if (bytes < kilo)
-        return std::to_string(bytes) + " B";
-    // Rounded up, so that what is a little too large doesn't read like the limit.
-    if (bytes < mega)
-        return std::to_string((bytes + kilo - 1) / kilo) + " KB";
-    return tenths((bytes * 10 + mega - 1) / mega) + " MB";
-}
 
 FileFacts factsOf(const FileResNode& place, const std::string& file) {
     FileFacts facts{place.sizeRanges(), place.maxBytes(), place.allowedKinds(), fileSize(file), {}, fileKind::other};

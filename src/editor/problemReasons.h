@@ -29,7 +29,4 @@ struct FileFacts {
 /// Why a problem is one. `theme` may be null, and the node missing: then the code's own text says it.
 [[nodiscard]] std::vector<Sentence> reasonOf(const ThemeResource* theme, const Problem& problem);
 
-/// A size in bytes, such as "2.9 MB", "300 KB" and "1 MB".
-[[nodiscard]] std::string bytesText(std::uint64_t bytes);
-
 } // namespace zdt

@@ -1,5 +1,6 @@
 #include "editor/problemRestore.h"
 
+#include "editor/keyDefaults.h"
 #include "lockscreen/amazingUnlockNode.h"
 #include "lockscreen/unlockConfigNode.h"
 #include "lockscreen/unlockNode.h"
@@ -61,7 +62,7 @@ int restoreValue(ThemeResource& theme, const ResNode& node) {
     block.pop_back();
     const std::string name = node.name();
     const std::string before = node.value();
-    if (const int code = theme.setValue(block, name, node.defaultValue()))
+    if (const int code = theme.setValue(block, name, defaultTextOf(theme, node)))
         return code;
     if (theme.applyNode(block))
         return returnCode::success;
@@ -86,7 +87,7 @@ ProblemRestore restoringOf(const ThemeResource& theme, const Problem& problem) {
     if (dynamic_cast<const FileResNode*>(node))
         return templateFileFor(theme, node->path() + node->name()).empty() ? ProblemRestore::none
                                                                            : ProblemRestore::file;
-    const bool hasDefault = dynamic_cast<const TextResNode*>(node) && !node->defaultValue().empty();
+    const bool hasDefault = dynamic_cast<const TextResNode*>(node) && !defaultTextOf(theme, *node).empty();
     return hasDefault ? ProblemRestore::value : ProblemRestore::none;
 }
 

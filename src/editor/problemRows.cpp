@@ -1,5 +1,6 @@
 #include "editor/problemRows.h"
 
+#include "editor/moduleWords.h"
 #include "editor/problemReasons.h"
 #include "editor/problemRestore.h"
 #include "model/fileResNode.h"
@@ -10,24 +11,11 @@
 #include "support/files.h"
 
 #include <algorithm>
-#include <array>
-#include <string_view>
+#include <utility>
 
 namespace zdt {
 
 namespace {
-
-constexpr std::string_view commonSetting = "commonSetting";
-
-/// As in the navigation. What isn't named comes behind.
-constexpr std::array<std::string_view, 12> groupOrder{"commonSetting", "launcher",  "contacts", "phone",
-                                                      "recorder",      "telecom",   "mms",      "systemui",
-                                                      "icons",         "wallpaper", "unlock",   "preview"};
-
-bool isDescriptionField(const std::string& key) {
-    return std::any_of(descriptionFields.begin(), descriptionFields.end(),
-                       [&](const DescriptionField& field) { return field.key == key; });
-}
 
 ProblemSubject subjectOf(const Problem& problem, const ResNode* node) {
     if ((fileKindOf(problem.path) & (fileKind::png | fileKind::jpeg)) != 0)
@@ -52,7 +40,7 @@ ProblemRow rowOf(const ThemeResource* theme, const Problem& problem) {
     ProblemRow row;
     row.problem = problem;
     row.subject = subjectOf(problem, node);
-    row.group = groupOf(problem);
+    row.group = groupOf(problem.key);
     row.reason = reasonOf(theme, problem);
     row.detail = detailOf(problem);
     if (theme && row.subject == ProblemSubject::pictures)
@@ -66,25 +54,16 @@ ProblemRow rowOf(const ThemeResource* theme, const Problem& problem) {
 
 } // namespace
 
-std::string moduleOf(const Problem& problem) {
-    return isDescriptionField(problem.key) ? std::string() : problem.key.substr(0, problem.key.find('/'));
-}
-
-std::string groupOf(const Problem& problem) {
-    const KeyPath path = splitKeyPath(problem.key);
-    return path.size() > 1 && path[1] == commonSetting ? std::string(commonSetting) : moduleOf(problem);
-}
-
 std::vector<ProblemRow> problemRows(const ThemeResource* theme, const std::vector<Problem>& problems) {
     std::vector<ProblemRow> rows;
     std::map<std::string, std::size_t> firstOf;
     for (const Problem& problem : problems) {
         rows.push_back(rowOf(theme, problem));
-        firstOf.emplace(rows.back().group, groupOrder.size() + firstOf.size());
+        firstOf.emplace(rows.back().group, firstOf.size());
     }
+    // Groups that the navigation doesn't have stand behind, as they came.
     const auto place = [&](const ProblemRow& row) {
-        const auto* known = std::find(groupOrder.begin(), groupOrder.end(), row.group);
-        return known == groupOrder.end() ? firstOf.at(row.group) : static_cast<std::size_t>(known - groupOrder.begin());
+        return std::pair(placeOfModule(row.group), firstOf.at(row.group));
     };
     std::stable_sort(rows.begin(), rows.end(),
                      [&](const ProblemRow& one, const ProblemRow& other) { return place(one) < place(other); });

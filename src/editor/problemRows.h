@@ -12,12 +12,6 @@ namespace zdt {
 
 class ResNode;
 
-enum class ProblemKind {
-    mustFix,    ///< Keeps the theme from an export.
-    worthALook, ///< Doesn't; the theme may want it so.
-};
-inline constexpr std::size_t problemKindCount = 2;
-
 enum class ProblemSubject { pictures, colours, texts, files, layout };
 inline constexpr std::size_t problemSubjectCount = 5;
 
@@ -45,20 +39,14 @@ struct Sentence {
 
 struct ProblemRow {
     Problem problem;
-    ProblemKind kind = ProblemKind::mustFix;
     ProblemSubject subject = ProblemSubject::files;
-    std::string group;            ///< The module under which it stands; see `groupOf`.
+    std::string group;            ///< The module under which it stands, as `groupOf` gives it.
     std::vector<Sentence> reason; ///< What is wrong, then what is needed.
     std::string detail;           ///< The name of the file or key.
     std::string picture;          ///< The path of the picture; empty where there is none to show.
     std::string colour;           ///< Of a colour's problem, its value.
     ProblemRestore restore = ProblemRestore::none;
 };
-
-/// The first name of a problem's key; empty for the description and its texts.
-[[nodiscard]] std::string moduleOf(const Problem& problem);
-/// The same, but "commonSetting" for what lies in the shared settings of a module.
-[[nodiscard]] std::string groupOf(const Problem& problem);
 
 /// The rows of a list of problems, group by group in the order of the navigation, and in the list's own order within.
 /// Keys that the theme doesn't have make rows too, that say what the code alone tells. `theme` may be null.

@@ -1,28 +1,13 @@
 #include "editor/problemWords.h"
 
+#include "editor/moduleWords.h"
 #include "kit/localisation.h"
 
-#include <algorithm>
 #include <array>
-#include <string_view>
 
 namespace zdt {
 
 namespace {
-
-struct GroupIcon {
-    std::string_view group;
-    Icon icon;
-};
-
-constexpr std::array groupIcons{
-    GroupIcon{"commonSetting", Icon::Language}, GroupIcon{"launcher", Icon::Apps},
-    GroupIcon{"contacts", Icon::PersonOutline}, GroupIcon{"phone", Icon::Smartphone},
-    GroupIcon{"recorder", Icon::Smartphone},    GroupIcon{"telecom", Icon::Smartphone},
-    GroupIcon{"mms", Icon::ChatBubbleOutline},  GroupIcon{"systemui", Icon::Tune},
-    GroupIcon{"icons", Icon::GridView},         GroupIcon{"wallpaper", Icon::Wallpaper},
-    GroupIcon{"unlock", Icon::LockOutline},     GroupIcon{"preview", Icon::FilterNone},
-};
 
 constexpr char16_t ideographicStop = 0x3002;
 
@@ -57,27 +42,11 @@ QString reasonText(const std::vector<Sentence>& reason) {
 
 QString placeText(const ProblemRow& row) {
     const SubjectKeys& keys = subjectKeys.at(static_cast<std::size_t>(row.subject));
-    return TextWith(keys.place, groupText(moduleOf(row.problem)));
-}
-
-QString groupText(const std::string& group) {
-    const QString name = QString::fromStdString(group);
-    const QString word = name.isEmpty() ? Text("kProblems_description") : KeyedText(name);
-    return word.isEmpty() ? name : word;
-}
-
-Icon groupIcon(const std::string& group) {
-    const auto* found =
-        std::find_if(groupIcons.begin(), groupIcons.end(), [&](const GroupIcon& each) { return each.group == group; });
-    return found == groupIcons.end() ? Icon::InfoOutline : found->icon;
+    return TextWith(keys.place, moduleWord(moduleOf(row.problem.key)));
 }
 
 QString subjectText(ProblemSubject subject) {
     return Text(subjectKeys.at(static_cast<std::size_t>(subject)).word);
-}
-
-QString kindText(ProblemKind kind) {
-    return Text(kind == ProblemKind::mustFix ? "kProblems_must_fix" : "kProblems_worth_a_look");
 }
 
 QString countText(std::size_t count) {

@@ -133,8 +133,18 @@ void ZColourDialog::addFields(const Request& request, const TextLookup& lookup) 
         row->addWidget(reset);
     }
     body()->addLayout(row);
+    _error = new QLabel(lookup("kColour_form"));
+    _error->setObjectName("colourError");
+    _error->setProperty("type", "hint");
+    _error->setProperty("state", "error");
+    _error->hide();
+    body()->addWidget(_error);
     connect(_hex, &QLineEdit::textEdited, this, &ZColourDialog::typeDigits);
-    connect(_hex, &QLineEdit::editingFinished, this, [this] { showColour(nullptr); });
+    connect(_hex, &QLineEdit::editingFinished, this, [this] {
+        // Enter must find what is wrong still there.
+        if (isWhole())
+            showColour(nullptr);
+    });
     connect(_percent, &QLineEdit::textEdited, this, &ZColourDialog::typePercent);
     connect(_percent, &QLineEdit::editingFinished, this, [this] { showColour(nullptr); });
 }
@@ -195,11 +205,26 @@ void ZColourDialog::showColour(const QWidget* typedIn) {
     _comparison->setColour(_colour);
     if (typedIn != _hex && _hex->text() != shownDigits(_colour))
         _hex->setText(shownDigits(_colour));
+    if (isWhole())
+        showError(false);
     if (typedIn != _percent)
         _percent->setPercent(percentOf(_colour));
 }
 
+bool ZColourDialog::isWhole() const {
+    return typedColour(_hex->text(), _colour).has_value();
+}
+
+void ZColourDialog::showError(bool isWrong) {
+    if (isWrong == _error->isVisible())
+        return;
+    setStyleProperty(_hex, "state", isWrong ? "error" : "");
+    _error->setVisible(isWrong);
+    adjustSize();
+}
+
 void ZColourDialog::typeDigits(const QString& text) {
+    showError(false);
     if (const std::optional<QColor> typed = typedColour(text, _colour))
         take(*typed, _hex);
 }
@@ -210,6 +235,12 @@ void ZColourDialog::typePercent() {
 }
 
 void ZColourDialog::accept() {
+    if (!isWhole()) {
+        showError(true);
+        _hex->setFocus();
+        _hex->selectAll();
+        return;
+    }
     remember(_colour);
     ZBaseDialog::accept();
 }

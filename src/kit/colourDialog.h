@@ -10,6 +10,8 @@
 #include <functional>
 #include <optional>
 
+class QLabel;
+
 namespace zdt {
 
 class ZHexField;
@@ -17,10 +19,10 @@ class ZPercentField;
 
 /// Chooses a colour: by a square of saturation and value, sliders of hue and alpha, digits, or a colour that the theme
 /// has or that was chosen lately. A page can follow while the author tries; Enter and the button take the colour,
-/// Escape and the other button bring the old one back.
+/// Escape and the other button bring the old one back. Digits that are no colour are refused.
 ///
-/// Children: `colourSquare`, `colourHue`, `colourAlpha`, `colourHex`, `colourPercent`, `colourReset`, `colourAccept`,
-/// `colourCancel`, and the swatches `themeColour0`…, `recentColour0`….
+/// Children: `colourSquare`, `colourHue`, `colourAlpha`, `colourHex`, `colourPercent`, `colourError`, `colourReset`,
+/// `colourAccept`, `colourCancel`, and the swatches `themeColour0`…, `recentColour0`….
 class ZColourDialog : public ZBaseDialog {
     Q_OBJECT
 
@@ -63,6 +65,8 @@ private:
     void showColour(const QWidget* typedIn);
     void typeDigits(const QString& text);
     void typePercent();
+    [[nodiscard]] bool isWhole() const;
+    void showError(bool isWrong);
 
     QColor _before;
     QColor _colour; ///< Exact, while the way over hue and saturation may round.
@@ -73,6 +77,7 @@ private:
     ColourComparison* _comparison = nullptr;
     ZHexField* _hex = nullptr;
     ZPercentField* _percent = nullptr;
+    QLabel* _error = nullptr;
 };
 
 } // namespace zdt

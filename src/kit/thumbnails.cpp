@@ -20,7 +20,7 @@ Thumbnails::Thumbnails(int kilobytes, QObject* parent)
     _workers.setMaxThreadCount(2);
     _telling.setSingleShot(true);
     _telling.setInterval(tellingInterval);
-    connect(&_telling, &QTimer::timeout, this, &Thumbnails::ready);
+    connect(&_telling, &QTimer::timeout, this, [this] { emit ready(std::exchange(_made, {})); });
     _starting.setSingleShot(true);
     _starting.setInterval(startingPause);
     connect(&_starting, &QTimer::timeout, this, &Thumbnails::startAsked);
@@ -66,8 +66,9 @@ void Thumbnails::make(const Request& request) {
     const QImage made = loadThumbnail(request.file, request.box);
     QMetaObject::invokeMethod(
         this,
-        [this, key = request.key, made] {
+        [this, key = request.key, file = request.file, made] {
             _waiting.remove(key);
+            _made.append(QString::fromStdString(file));
             _pictures.insert(key, new QImage(made), static_cast<int>(1 + made.sizeInBytes() / 1024));
             if (!_telling.isActive())
                 _telling.start();

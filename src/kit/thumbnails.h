@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QSet>
 #include <QSize>
+#include <QStringList>
 #include <QThreadPool>
 #include <QTimer>
 
@@ -39,8 +40,8 @@ public:
     void dropWaiting();
 
 signals:
-    /// Some were made. At most fifty times a second.
-    void ready();
+    /// The pictures of these files were made. At most fifty times a second.
+    void ready(const QStringList& files);
 
 private:
     struct Request {
@@ -57,6 +58,7 @@ private:
     QSet<QString> _waiting;      ///< The keys of all that aren't made.
     QTimer _starting;
     QTimer _telling;
+    QStringList _made; ///< Files of which nobody was told yet.
     int _priority = 0;
     std::atomic<bool> _ending = false;
     QThreadPool _workers;

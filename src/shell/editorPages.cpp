@@ -1,6 +1,7 @@
 #include "shell/editorPages.h"
 
 #include "editor/fullListPage.h"
+#include "editor/moduleWords.h"
 #include "editor/problemPage.h"
 #include "kit/controlSearch.h"
 #include "kit/countButton.h"
@@ -28,6 +29,11 @@ QString moduleOf(const ZCountButton& row) {
     return row.property("module").toString();
 }
 
+/// The row for what the list shows: its module, or everything.
+QString rowFor(const CFullListPage& list) {
+    return list.module().empty() ? QString(allKeys) : QString::fromStdString(list.module());
+}
+
 } // namespace
 
 CEditorPages::CEditorPages(Workbench& bench, QWidget* frame)
@@ -47,6 +53,12 @@ void CEditorPages::makeList() {
     if (_listPlace)
         return;
     _list = makePage<CFullListPage>(_place, _listPlace, _bench);
+    if (!_list)
+        return;
+    connect(_list, &CFullListPage::moduleChanged, this, [this] {
+        if (showsList())
+            checkRow(rowFor(*_list));
+    });
 }
 
 void CEditorPages::makeProblems() {
@@ -71,10 +83,14 @@ void CEditorPages::showFirst() {
 
 void CEditorPages::showModule(const QString& module) {
     makeList();
-    checkRow(module);
+    if (_list && (module == allKeys || !_list->showModule(module.toStdString())))
+        _list->showModule({});
+    showList(module);
+}
+
+void CEditorPages::showList(const QString& module) {
     _place.setCurrentWidget(_listPlace);
-    if (_list)
-        _list->showModule(module == allKeys ? std::string() : module.toStdString());
+    checkRow(_list ? rowFor(*_list) : module);
     emit changed();
 }
 
@@ -82,9 +98,17 @@ void CEditorPages::showProblems() {
     makeProblems();
     checkRow({});
     _place.setCurrentWidget(_problemPlace);
+    emit changed();
+}
+
+bool CEditorPages::showsList() const {
+    return _list && _place.currentWidget() == _listPlace;
+}
+
+void CEditorPages::checkProblems() {
+    makeProblems();
     if (_problems)
         _problems->check();
-    emit changed();
 }
 
 bool CEditorPages::showsProblems() const {
@@ -92,22 +116,21 @@ bool CEditorPages::showsProblems() const {
 }
 
 void CEditorPages::showKey(const QString& key) {
-    if (!key.contains('/')) {
+    const QString module = QString::fromStdString(groupOf(key.toStdString()));
+    if (module.isEmpty()) {
         emit descriptionRequested();
         return;
     }
     makeList();
-    if (!_list || !_list->showLeaf(key.toStdString()))
-        return;
-    const QStringList names = key.split('/');
-    const bool isShared = names.value(1) == "commonSetting";
-    checkRow(isShared ? names[1] : names[0]);
-    _place.setCurrentWidget(_listPlace);
-    emit changed();
+    // Not all that can be wrong is a key: a whole file can't be read, or the lock screen's design lacks a picture.
+    if (_list && _list->showLeaf(key.toStdString()))
+        showList(module);
+    else
+        showModule(module);
 }
 
 void CEditorPages::focusSearch() {
-    if (_list && _place.currentWidget() == _listPlace)
+    if (showsList())
         _list->focusSearch();
 }
 

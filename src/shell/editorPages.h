@@ -31,8 +31,11 @@ public:
     /// Shows the first page of the open theme.
     void showFirst();
     void showModule(const QString& module);
+    /// Shows the problems as they were last found or handed over.
     void showProblems();
-    /// Shows the page that has a key, given as its path, and the key in it.
+    void checkProblems();
+    /// Shows the page that has a key, given as its path, and the key in it; that of its module, if it has no place
+    /// there.
     void showKey(const QString& key);
     /// Gives the search field of the page the keyboard.
     void focusSearch();
@@ -52,6 +55,8 @@ signals:
 private:
     void makeList();
     void makeProblems();
+    void showList(const QString& module);
+    [[nodiscard]] bool showsList() const;
     void showCounts();
     void checkRow(const QString& module);
 

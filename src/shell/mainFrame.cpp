@@ -152,7 +152,7 @@ void CMainFrameWnd::connectButtons() {
     onClick("aboutbackBtn", [this] { showTab(Tab::start); });
     onClick("ThemePreviewBackBtn", &CMainFrameWnd::returnToStart);
     onClick("ResPreviewReturn", &CMainFrameWnd::returnToStart);
-    onClick("ResGlobleErrorBtn", &CMainFrameWnd::showProblems);
+    onClick("ResGlobleErrorBtn", &CMainFrameWnd::findProblems);
     onClick("exportBtn", &CMainFrameWnd::openExport);
     onClick("btnClose", [this] {
         if (_export)
@@ -186,7 +186,7 @@ void CMainFrameWnd::connectKeys() {
     });
     onKey(QKeySequence("Ctrl+P"), [this] {
         if (tab() == Tab::editor)
-            showProblems();
+            findProblems();
     });
     onKey(QKeySequence("Alt+Left"), [this] {
         if (tab() == Tab::editor)
@@ -264,6 +264,11 @@ void CMainFrameWnd::showCounts() {
 void CMainFrameWnd::showProblems() {
     _pages->showProblems();
     showTab(Tab::editor);
+}
+
+void CMainFrameWnd::findProblems() {
+    _pages->checkProblems();
+    showProblems();
 }
 
 void CMainFrameWnd::showFolder(const std::string& path) {

@@ -80,6 +80,7 @@ private:
     /// Lets every page read the theme anew, whose values and generation are other ones.
     void tellThemeChanged();
     void showProblems();
+    void findProblems();
     void showFolder(const std::string& path);
     void showTitle();
     void showKind();

@@ -157,6 +157,8 @@ public:
     /// Removes the file that is a file leaf's value and empties the value. -1 if it can't be removed, -14 without the
     /// leaf.
     [[nodiscard]] int clearFile(const KeyPath& keyPath);
+    /// The same for the n-th of the path's namesakes.
+    [[nodiscard]] int clearFileNth(const KeyPath& keyPath, int n);
     /// Puts a file back to the template's; -1 if the template has none.
     [[nodiscard]] int restoreDefault(ResNode* node);
     /// `root/config/name_fileName`; empty for an empty argument.

@@ -144,7 +144,11 @@ std::vector<std::pair<std::string, std::string>> ThemeResource::childPairs(const
 }
 
 int ThemeResource::clearFile(const KeyPath& keyPath) {
-    ResNode* found = node(keyPath);
+    return clearFileNth(keyPath, 1);
+}
+
+int ThemeResource::clearFileNth(const KeyPath& keyPath, int n) {
+    ResNode* found = findNthNode(keyPath, n);
     if (!found)
         return returnCode::notFound;
     const std::string file = found->value();

@@ -1,5 +1,6 @@
 #include "editor/fullListPage.h"
 
+#include "common/boxAnswers.h"
 #include "common/pageFixture.h"
 #include "kit/baseDialog.h"
 #include "kit/controlSearch.h"
@@ -12,9 +13,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDragEnterEvent>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -37,8 +40,10 @@ class Listener : public INotifyUI {
 public:
     void Notify(const Notification& message) override {
         checks += message.name == notify::Notify_Error_List_refresh ? 1 : 0;
+        reloads += message.name == notify::Notify_ReloadDataMsg ? 1 : 0;
     }
     int checks = 0;
+    int reloads = 0;
 };
 
 class FullListPageTest : public test::PageTest {
@@ -114,7 +119,7 @@ TEST_F(FullListPageTest, SearchFiltersAsOneTypes) {
     QTest::keyClick(&control("keySearch"), Qt::Key_Down);
     EXPECT_TRUE(list().hasFocus());
     EXPECT_EQ(list().current(), 0);
-    QTest::keyClick(page.get(), Qt::Key_F, Qt::ControlModifier);
+    page->focusSearch();
     EXPECT_TRUE(control("keySearch").hasFocus());
     search("zzz");
     EXPECT_EQ(text("emptyTitle"), "Nothing called “zzz”");
@@ -133,6 +138,13 @@ TEST_F(FullListPageTest, ColourIsEditedInItsRow) {
     EXPECT_EQ(value(messages, "message_pop_send_bg_color"), "#242424");
     EXPECT_EQ(listener.checks, 0);
 
+    const int index = list().current();
+    QTest::mouseClick(list().cellAt(index + 1), Qt::LeftButton, {}, QPoint(100, 16));
+    EXPECT_EQ(text("keyHint"), "message_pop_send_bg_color wasn't stored: Enter six or eight hex digits");
+    QTest::mouseClick(list().cellAt(index), Qt::LeftButton, {}, QPoint(100, 16));
+    QTest::keyClick(&list(), Qt::Key_F2);
+    QTest::keyClicks(&control("editHex"), "1");
+    EXPECT_FALSE(text("keyHint").contains("hex digits"));
     QTest::keyClick(&control("editHex"), Qt::Key_Escape);
     EXPECT_EQ(control<QLineEdit>("editHex").text(), "242424");
     type("editHex", "12abef");
@@ -200,7 +212,7 @@ TEST_F(FullListPageTest, PictureIsReplacedByAFileThatIsDropped) {
     open();
     ASSERT_TRUE(page->showLeaf(previewKey));
     const std::string before = test::readFile(value({"preview"}, "preview_mms_0.jpg"));
-    drop({picture("one.jpg", 1080, 2160), picture("two.jpg", 1080, 2160)});
+    expectBox([&] { drop({picture("one.jpg", 1080, 2160), picture("two.jpg", 1080, 2160)}); }, "several files");
     EXPECT_TRUE(isPreview(before)) << "only one file is taken";
 
     expectBox([&] { drop({picture("small.png", 100, 100)}); }, "1080 × 2160");
@@ -215,8 +227,16 @@ TEST_F(FullListPageTest, PictureIsReplacedByAFileThatIsDropped) {
     EXPECT_EQ(QImage(QString::fromStdString(stored)).size(), QSize(1080, 2160));
 
     EXPECT_TRUE(QTest::qWaitFor([&] { return control("detailReset").isVisible(); }));
-    QTest::mouseClick(&control("detailReset"), Qt::LeftButton);
+    const auto reset = [&] { QTest::mouseClick(&control("detailReset"), Qt::LeftButton); };
+    {
+        const test::BoxAnswers answers(*page, "messageReject");
+        reset();
+        EXPECT_EQ(answers.said().size(), 1);
+        EXPECT_FALSE(isPreview(before)) << "a no keeps the author's file";
+    }
+    expectBox(reset, "preview_mms_0.jpg");
     EXPECT_TRUE(isPreview(before));
+    EXPECT_TRUE(list().hasFocus());
     EXPECT_TRUE(QTest::qWaitFor([&] { return !control("detailReset").isVisible(); }));
 
     page->hide();
@@ -252,6 +272,7 @@ TEST_F(FullListPageTest, CancelLeavesCopiesAsTheyDiffered) {
     ASSERT_EQ(bench.theme()->setValue(block, "ovui_primary", "#80ff0102"), 0);
     bench.notifications().SendNotify(nullptr, notify::Notify_ReloadDataMsg);
     ASSERT_TRUE(page->showLeaf("contacts/commonSetting/text/ovui_primary"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return control("detailEdit").isVisible(); }));
     std::string tried;
     QTimer::singleShot(0, page.get(), [&] {
         auto* dialog = page->window()->findChild<ZBaseDialog*>();
@@ -262,11 +283,38 @@ TEST_F(FullListPageTest, CancelLeavesCopiesAsTheyDiffered) {
         tried = value(block, "ovui_primary");
         dialog->reject();
     });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return control("detailEdit").isVisible(); }));
     QTest::mouseClick(&control("detailEdit"), Qt::LeftButton);
     EXPECT_EQ(tried, "#ff8800");
     EXPECT_EQ(value(block, "ovui_primary"), "#80ff0102");
     EXPECT_EQ(value({"contacts", "commonSetting", "text"}, "ovui_primary"), "#242424");
+}
+
+TEST_F(FullListPageTest, AnotherKindOfLockIsReadAnewAndOnlyKnownOnesAreTaken) {
+    open();
+    page->showModule("unlock");
+    ASSERT_TRUE(page->showLeaf("unlock/config/style"));
+    type("editText", "custom");
+    QTest::keyClick(&control("editText"), Qt::Key_Return);
+    EXPECT_EQ(text("editReason"), "Enter slide, magazine, amazing or video");
+    EXPECT_EQ(listener.reloads, 0);
+    type("editText", "video");
+    QTest::keyClick(&control("editText"), Qt::Key_Return);
+    EXPECT_EQ(bench.theme()->lockScreenType(), "video");
+    EXPECT_EQ(control<QLineEdit>("editText").text(), "video");
+    EXPECT_EQ(listener.reloads, 1) << "other rows depend on it";
+}
+
+TEST_F(FullListPageTest, DropsGoToARowThatHoldsAFileAndThemesToTheWindow) {
+    open();
+    ASSERT_TRUE(page->showLeaf(colourKey));
+    expectBox([&] { drop({picture("fits.jpg", 1080, 2160)}); }, "holds no file");
+    for (const auto& [file, isTaken] : {std::pair{store.path("x.zdt"), false}, {store.path("x.jpg"), true}}) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(QString::fromStdString(file))});
+        QDragEnterEvent enter({200, 40}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(list().viewport(), &enter);
+        EXPECT_EQ(enter.isAccepted(), isTaken) << file;
+    }
 }
 
 TEST_F(FullListPageTest, ReloadKeepsThePlaceAndTakesWhatIsThere) {

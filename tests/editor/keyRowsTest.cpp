@@ -4,13 +4,16 @@
 #include "editor/fileChanges.h"
 #include "editor/keyChange.h"
 #include "editor/keyFilter.h"
+#include "editor/moduleWords.h"
 #include "model/resNode.h"
 #include "modules/themeNode.h"
 #include "store/keyText.h"
 #include "support/fileComparison.h"
+#include "support/files.h"
 
 #include <gtest/gtest.h>
 
+#include <QImage>
 #include <QTest>
 
 #include <algorithm>
@@ -64,7 +67,8 @@ TEST(KeyRows, NewThemeDiffersNowhereFromItsDefaults) {
         const auto theme = store.create("T" + std::to_string(generation), {generation});
         for (const KeyRow& row : keyRowsOf(*theme)) {
             for (const KeyPlace& place : row.places) {
-                EXPECT_TRUE(isFile(row.kind) ? sameFiles(place.value, place.fallback)
+                const std::string file = isPlainFile(place.fallback) ? place.fallback : "";
+                EXPECT_TRUE(isFile(row.kind) ? sameFiles(place.value, file)
                                              : sameText(row.kind, place.value, place.fallback))
                     << generation << " " << place.key() << " " << place.value << " " << place.fallback;
             }
@@ -199,6 +203,43 @@ TEST_F(KeyChangeTest, SharedPictureIsSetEverywhereOrNowhere) {
     EXPECT_EQ(replaceFile(*theme, before, picture).code, returnCode::cannotMakeFolder);
     const KeyPlace& first = before.places.front();
     EXPECT_TRUE(sameFiles(theme->getValueNth(first.path(), first.number), first.fallback));
+
+    // What doesn't fit its place is the author's all the same.
+    const std::string path = "res/Aurora/" + first.file;
+    ASSERT_TRUE(removeFile(store.path(path)));
+    store.write(path, "no picture");
+    theme = store.open("Aurora");
+    EXPECT_EQ(replaceFile(*theme, row(before.key), picture).code, returnCode::cannotMakeFolder);
+    EXPECT_EQ(test::readFile(store.path(path)), "no picture");
+}
+
+TEST_F(KeyChangeTest, DrawnPicturesAreTheProgramsOwn) {
+    const std::string preview = row("preview/preview_mms_0.jpg").value();
+    for (const char* name : {"cover.jpg", "icon_small.jpg", "icon_small_1.jpg"}) {
+        const KeyRow drawn = row(std::string("preview/") + name);
+        EXPECT_EQ(replaceFile(*theme, drawn, preview).message, "kList_drawn") << name;
+        EXPECT_FALSE(canReset(drawn, true)) << name;
+    }
+}
+
+TEST_F(KeyChangeTest, JpegMadeOfAPngKeepsTheLimit) {
+    // A chequered picture is small as a PNG and large as a JPEG.
+    QImage chequered(1080, 2160, QImage::Format_RGB32);
+    for (int y = 0; y < chequered.height(); ++y) {
+        for (int x = 0; x < chequered.width(); ++x)
+            chequered.setPixel(x, y, (x / 2 + y / 3) % 2 == 0 ? qRgb(255, 0, 0) : qRgb(0, 255, 255));
+    }
+    const std::string png = store.path("chequered.png");
+    ASSERT_TRUE(chequered.save(QString::fromStdString(png)));
+    const KeyRow before = row("preview/preview_mms_0.jpg");
+    ASSERT_LT(fileSize(png), before.maxBytes);
+    const FileRefusal refusal = replaceFile(*theme, before, png);
+    const std::string stored = row(before.key).value();
+    if (refusal.isNone())
+        EXPECT_LE(fileSize(stored), before.maxBytes);
+    else
+        EXPECT_EQ(refusal.code, returnCode::wrongByteSize);
+    EXPECT_EQ(QImage(QString::fromStdString(stored)).size(), chequered.size());
 }
 
 TEST_F(KeyChangeTest, FilesAreRefusedByTheirPlace) {
@@ -237,6 +278,8 @@ TEST_F(KeyChangeTest, FilesAreRefusedByTheirPlace) {
 TEST_F(KeyChangeTest, LockStyleChangesTheKindOfLock) {
     EXPECT_EQ(changeKey(*theme, row("unlock/config/style"), "magazine"), 0);
     EXPECT_EQ(theme->lockScreenType(), "magazine");
+    for (const char* kind : {"custom", "zooking", "Slide", ""})
+        EXPECT_EQ(changeKey(*theme, row("unlock/config/style"), kind), returnCode::notAllowed) << kind;
     EXPECT_EQ(resetKey(*theme, row("unlock/config/style")), 0);
     EXPECT_EQ(theme->lockScreenType(), "amazing");
 }

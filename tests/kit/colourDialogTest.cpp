@@ -137,6 +137,20 @@ TEST_F(ColourDialogTest, EscapeBringsTheOldColourBackAndEnterTakesTheNew) {
     EXPECT_EQ(now(), "#abcdef");
 }
 
+TEST_F(ColourDialogTest, EnterRefusesDigitsThatAreNoColour) {
+    open("#123456");
+    type("colourHex", "abcde");
+    QTest::keyClick(&control("colourHex"), Qt::Key_Return);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_TRUE(control("colourError").isVisible());
+    EXPECT_EQ(control<QLineEdit>("colourHex").text(), "ABCDE");
+    QTest::keyClick(&control("colourHex"), Qt::Key_End);
+    QTest::keyClicks(&control("colourHex"), "f");
+    EXPECT_FALSE(control("colourError").isVisible());
+    QTest::keyClick(&control("colourHex"), Qt::Key_Return);
+    EXPECT_EQ(now(), "#abcdef");
+}
+
 TEST_F(ColourDialogTest, ArrowsMoveWhatHasTheFocus) {
     const struct {
         const char* name;

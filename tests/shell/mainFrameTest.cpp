@@ -6,6 +6,7 @@
 #include "kit/controlSearch.h"
 #include "kit/flowView.h"
 #include "kit/layoutError.h"
+#include "kit/listView.h"
 #include "kit/notificationNames.h"
 #include "kit/searchField.h"
 #include "kit/segmentedControl.h"
@@ -136,6 +137,52 @@ TEST_F(MainFrameTest, OpensByEnterAndByDoubleClickAndComesBack) {
     EXPECT_FALSE(find("nav_launcher").isVisible());
     click("ResPreviewReturn");
     EXPECT_EQ(tab(), 0);
+}
+
+TEST_F(MainFrameTest, TheListAndItsNavigationAgree) {
+    store.create("Aurora").reset();
+    window().openTheme("Aurora");
+    EXPECT_TRUE(find<QAbstractButton>("nav_commonSetting").isChecked());
+    QTest::keyClick(&window(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(find<QWidget>("keySearch").hasFocus());
+    auto& modules = find<QComboBox>("keyModule");
+    modules.setFocus();
+    QTest::keyClick(&modules, Qt::Key_Down);
+    EXPECT_TRUE(find<QAbstractButton>("nav_launcher").isChecked());
+    QTest::keyClick(&modules, Qt::Key_Home);
+    EXPECT_TRUE(find<QAbstractButton>("nav_all").isChecked());
+}
+
+TEST_F(MainFrameTest, EveryProblemLeadsSomewhere) {
+    store.create("Aurora").reset();
+    window().openTheme("Aurora");
+    const struct {
+        const char* key;
+        const char* row; ///< Of the navigation; null for the export page.
+    } cases[]{{"mms/text", "nav_mms"},
+              {"unlock/amazing", "nav_unlock"},
+              {"unlock/custom/file", "nav_unlock"},
+              {"unlock", "nav_unlock"},
+              {"mms/text/message_pop_send_bg_color", "nav_mms"},
+              {"phone/commonSetting/text/gone", "nav_commonSetting"},
+              {"gone/x", "nav_all"},
+              {"title", nullptr},
+              {"", nullptr}};
+    for (const auto& [key, row] : cases) {
+        const std::vector<Problem> problems{{key, {}, -2}};
+        bench.notifications().SendNotify(nullptr, notify::Notify_Error_List_Msg, 0,
+                                         reinterpret_cast<std::intptr_t>(&problems));
+        EXPECT_TRUE(find<QAbstractButton>("ResGlobleErrorBtn").isChecked());
+        auto& view = find<ZListView>("problemList");
+        view.setFocus();
+        QTest::keyClick(&view, Qt::Key_Home);
+        QTest::keyClick(&view, Qt::Key_Return);
+        EXPECT_EQ(tab(), row ? 1 : 2) << key;
+        if (row)
+            EXPECT_TRUE(find<QAbstractButton>(row).isChecked()) << key;
+        else
+            click("btnClose");
+    }
 }
 
 TEST_F(MainFrameTest, ChoosingALanguageRelabelsWritesItDownAndTellsTheTheme) {
