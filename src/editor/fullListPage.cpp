@@ -20,6 +20,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -219,6 +220,9 @@ bool CFullListPage::showModule(const std::string& module) {
     if (index < 0)
         return false;
     _modules.setCurrentIndex(index);
+    // Who goes to another part of the theme looks for something else there.
+    if (module != _table.filter().module)
+        _search.clear();
     KeyFilter filter = _table.filter();
     if (filter.module == module)
         return true;

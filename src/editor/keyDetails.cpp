@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRegularExpression>
 #include <QVBoxLayout>
 
 namespace zdt {
@@ -23,6 +24,8 @@ constexpr int labelWidth = 88;
 constexpr int factPadding = 7;
 constexpr int smallSwatch = 16;
 constexpr int opaque = 255;
+/// Characters of a text that are shown; the row's field has all of it.
+constexpr qsizetype mostShown = 300;
 
 QString colourWords(const QColor& colour) {
     const QString digits = "#" + shownDigits(colour);
@@ -31,6 +34,11 @@ QString colourWords(const QColor& colour) {
 
 /// A line of a long path or name may end behind these signs.
 QString breakable(QString text) {
+    if (text.size() > mostShown)
+        text = text.first(mostShown) + QChar(0x2026);
+    // A word that is too long for a line without any of them is broken anywhere.
+    static const QRegularExpression longWord(R"(([^\s/_.]{24}))");
+    text.replace(longWord, QStringLiteral(u"\\1\u200b"));
     for (const char* sign : {"/", "_", "."})
         text.replace(sign, QString(sign) + QChar(0x200b));
     return text;
