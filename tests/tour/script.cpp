@@ -14,7 +14,7 @@ namespace zdt::tour {
 namespace {
 
 constexpr int pause = 60;        ///< Between two steps, in milliseconds.
-constexpr int patience = 12'000; ///< Until a step that can't begin ends the tour.
+constexpr int patience = 60'000; ///< Until a step that can't begin ends the tour.
 
 } // namespace
 
