@@ -2,6 +2,7 @@
 
 #include "kit/icons.h"
 #include "kit/kitStyle.h"
+#include "kit/lateSignals.h"
 #include "kit/scrim.h"
 #include "kit/tokens.h"
 #include "kit/window.h"
@@ -49,6 +50,7 @@ ZBaseDialog::ZBaseDialog(QWidget* parent)
 }
 
 ZBaseDialog::~ZBaseDialog() {
+    hearNoChildren(this);
     leaveHost();
 }
 

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QPushButton>
 
 #include <utility>
 
@@ -54,6 +55,8 @@ QStringList askForFiles(QWidget* parent, const FileRequest& request) {
     dialog.resize(chooserSize);
     dialog.setFileMode(modeOf(request.kind));
     sayWords(dialog);
+    for (QPushButton* button : dialog.findChildren<QPushButton*>())
+        button->setIcon({}); // The style's own, unlike any other of the window's.
     if (request.kind == FileRequest::Kind::folder)
         showFoldersAlone(dialog);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();

@@ -1,5 +1,6 @@
 #include "kit/page.h"
 
+#include "kit/lateSignals.h"
 #include "kit/layoutError.h"
 #include "kit/localisation.h"
 #include "kit/notificationNames.h"
@@ -20,6 +21,10 @@ ZPage::ZPage(Workbench& bench, const QString& layout, QWidget* parent)
     column->addWidget(loaded.widget.release());
     relabel(this, Text);
     bench.notifications().AddNotifier(*this);
+}
+
+ZPage::~ZPage() {
+    hearNoChildren(this);
 }
 
 void ZPage::Notify(const Notification& message) {

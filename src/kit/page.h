@@ -18,6 +18,7 @@ public:
     /// Loads the layout into the page and begins to hear notifications.
     /// @throws LayoutError if the layout can't be loaded
     ZPage(Workbench& bench, const QString& layout, QWidget* parent);
+    ~ZPage() override;
 
     void Notify(const Notification& message) override;
 
