@@ -10,7 +10,6 @@
 #include "shell/firstWindow.h"
 #include "shell/helperSweep.h"
 #include "shell/mainFrame.h"
-#include "shell/programIcon.h"
 #include "shell/skinCheck.h"
 #include "shell/templatePhones.h"
 
@@ -96,7 +95,6 @@ void tellOfSkin(const QStringList& faults, QWidget* window) {
 
 int runWindow(QApplication& application, const std::function<void(CMainFrameWnd&)>& whenShown) {
     QApplication::setApplicationName("zdtheme-designer");
-    QApplication::setWindowIcon(programIcon());
     const QStringList folders = skinFolders();
     static_cast<void>(applyKitStyle(application, folders));
     SkinLoader layouts(folders);

@@ -56,7 +56,7 @@ QIcon titleSign(double ratio) {
     place.setDevicePixelRatio(ratio);
     place.fill(Qt::transparent);
     QPainter painter(&place);
-    programIcon().paint(&painter, QRect(0, 0, logoSide, logoSide));
+    paintProgramSign(painter, QRectF(0, 0, logoSide, logoSide));
     painter.end();
     QIcon sign(place);
     sign.addPixmap(place, QIcon::Disabled);
@@ -90,7 +90,6 @@ CMainFrameWnd::CMainFrameWnd(Workbench& bench)
     if (_tabs.count() <= static_cast<int>(Tab::about) || _titles.count() <= static_cast<int>(Tab::about))
         throw LayoutError("skin.xml: MainFrameTab and titleTabs need a page each for start, editor, export and about");
     setWindowTitle("zdtTool");
-    setWindowIcon(programIcon());
     setMinimumSize(smallestWindow);
     setAcceptDrops(true);
     bench.notifications().AddNotifier(*this);
@@ -124,7 +123,10 @@ void CMainFrameWnd::makePages() {
     connect(_pages.get(), &CEditorPages::changed, this, &CMainFrameWnd::showCounts);
     connect(_pages.get(), &CEditorPages::descriptionRequested, this, &CMainFrameWnd::openExport);
     // Pages of the editor are made before they are asked for, once the start page is seen.
-    QTimer::singleShot(preparePause, this, [this] { _pages->prepare(); });
+    QTimer::singleShot(preparePause, this, [this] {
+        setWindowIcon(programIcon());
+        _pages->prepare();
+    });
 }
 
 void CMainFrameWnd::openAbout() {
