@@ -29,10 +29,6 @@ namespace {
 constexpr int checkDelay = 300; // Milliseconds behind the last key.
 constexpr std::array<const char*, 3> targetButtons{"OVUI5Btn", "OVUI8Btn", "OVUI9Btn"};
 
-QString toText(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 /// Without characters that a description can't hold.
 std::string storable(QString text) {
     text.removeIf([](QChar sign) {
@@ -76,7 +72,7 @@ ExportFields::ExportFields(QWidget& page)
     _targets->setObjectName("newcheckgroup");
     for (unsigned generation = 0; generation < targetButtons.size(); ++generation) {
         auto& button = FindControl<QAbstractButton>(&page, targetButtons[generation]);
-        button.setText(toText(exportTarget(generation).label));
+        button.setText(QString::fromUtf8(exportTarget(generation).label));
         _targets->addButton(&button, static_cast<int>(generation));
     }
     constexpr int longestVersion = 9; // Digits; more than any number of 32 bits can be sure to hold.
@@ -133,8 +129,8 @@ void ExportFields::addHelp(const QString& field, const QString& key) {
     auto& button = FindControl<QToolButton>(&_page, field + "_Btn");
     connect(&button, &QToolButton::clicked, this, [this, &button, key] {
         const int chosen = _targets->checkedId();
-        const QString hint =
-            chosen < 0 ? "kExport_short_target" : toText(exportTarget(static_cast<unsigned>(chosen)).hintKey);
+        const QString hint = chosen < 0 ? "kExport_short_target"
+                                        : QString::fromUtf8(exportTarget(static_cast<unsigned>(chosen)).hintKey);
         HelpTip::show(button, Text(key.isEmpty() ? hint : key));
     });
 }
@@ -228,7 +224,7 @@ void ExportFields::check() {
     for (const FormProblem& problem : exportProblems(form())) {
         QString& note = notes[static_cast<std::size_t>(problem.field)];
         if (note.isEmpty())
-            note = Text(toText(shortMessage(problem)));
+            note = Text(QString::fromUtf8(shortMessage(problem)));
     }
     for (std::size_t index = 0; index < notes.size(); ++index) {
         const QString state = notes[index].isEmpty() ? QString() : "error";
@@ -249,10 +245,10 @@ int ExportFields::wrongFields() const {
 void ExportFields::sayTarget() {
     const int chosen = _targets->checkedId();
     const ExportTarget* target = chosen < 0 ? nullptr : &exportTarget(static_cast<unsigned>(chosen));
-    _prefix.setText(target ? toText(target->versionPrefix) : QString());
+    _prefix.setText(target ? QString::fromUtf8(target->versionPrefix) : QString());
     _prefix.setVisible(target);
     setStyleProperty(&_version, "joined", target != nullptr);
-    _hint.setText(Text(target ? toText(target->hintKey) : "kExport_short_target"));
+    _hint.setText(Text(target ? QString::fromUtf8(target->hintKey) : "kExport_short_target"));
 }
 
 void ExportFields::sayCount() {

@@ -31,10 +31,6 @@ Workbench& withControls(Workbench& bench) {
     return bench;
 }
 
-QString toText(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 /// A count in words: the text of `key`, or of `key` and "_one".
 QString countText(const QString& key, int count) {
     return TextWith(count == 1 ? key + "_one" : key, count);
@@ -146,7 +142,7 @@ bool CResEditOutPutDlg::isFormRight() {
     const std::vector<FormProblem> problems = exportProblems(_fields.form());
     if (problems.empty())
         return true;
-    warn(toText(problems.front().message));
+    warn(QString::fromUtf8(problems.front().message));
     _fields.focus(problems.front().field);
     return false;
 }

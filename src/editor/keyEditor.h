@@ -73,7 +73,6 @@ private:
     [[nodiscard]] QString typed(bool& isWhole) const;
     [[nodiscard]] bool pressed(int key);
     void restore();
-    void setError(bool isWrong);
     void placeFields();
 
     ZHexField* _hex;

@@ -19,10 +19,6 @@ constexpr int headHeight = 28;
 constexpr int headGap = 12;
 constexpr int rowGap = 24;
 
-QString toText(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 bool haveSameCards(const PreviewSection& one, const PreviewSection& other) {
     return one.name == other.name &&
            std::equal(one.pictures.begin(), one.pictures.end(), other.pictures.begin(), other.pictures.end(),
@@ -53,7 +49,7 @@ void PreviewBoard::setSections(std::vector<PreviewSection> sections) {
 
 PreviewBoard::Group PreviewBoard::makeGroup(const PreviewSection& section) {
     Group group{new QWidget(this), nullptr, nullptr, nullptr, {}};
-    group.box->setObjectName(toText(section.name));
+    group.box->setObjectName(QString::fromUtf8(section.name));
     group.caption = headLabel(group.box, "caption", "strongSmall");
     group.count = headLabel(group.box, "count", "hint");
     group.count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -151,7 +147,7 @@ void PreviewBoard::setCurrent(const QString& name) {
 void PreviewBoard::retell() {
     for (std::size_t index = 0; index < _groups.size(); ++index) {
         const PreviewSection& section = _sections[index];
-        const QString module = Text(toText(section.captionKey));
+        const QString module = Text(QString::fromUtf8(section.captionKey));
         _groups[index].caption->setText(module);
         _groups[index].count->setText(QString::number(section.pictures.size()));
         for (PreviewCard* card : _groups[index].cards) {

@@ -11,7 +11,6 @@
 #include "kit/messageBoxes.h"
 #include "kit/notificationNames.h"
 #include "kit/skinFolder.h"
-#include "kit/textLookup.h"
 #include "kit/tokens.h"
 #include "shell/aboutPage.h"
 #include "shell/dropVeil.h"
@@ -98,7 +97,6 @@ CMainFrameWnd::CMainFrameWnd(Workbench& bench)
     makePages();
     connectButtons();
     connectKeys();
-    relabel(this, Text);
     showTab(Tab::start);
     bench.notifications().SendNotify(this, notify::windowinit);
 }

@@ -248,6 +248,7 @@ void CMainFrameWnd::chooseFirstLanguage() {
     } else {
         SetLanguage(GetLanguage());
         takeQtWords(GetLanguage());
+        relabel(this, Text);
     }
     _chinese.setChecked(GetLanguage() == chineseLanguage);
     _english.setChecked(GetLanguage() == englishLanguage);

@@ -35,10 +35,6 @@ constexpr int cardPicture = 64;
 /// The picture of a template that stands for its phones: the home screen.
 constexpr const char* cardPreview = "preview/preview_icons_0.jpg";
 
-QString key(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 QPixmap phonePicture(const std::string& root, unsigned generation, double ratio) {
     constexpr int tallest = 2 * cardPicture;
     const std::string file = locateTemplate(root, generation) + cardPreview;
@@ -91,8 +87,9 @@ void CNewThemeDialog::makeFields() {
 void CNewThemeDialog::makeCards(const std::string& root) {
     for (unsigned index = 0; index < generationCount; ++index) {
         const GenerationCard& about = generationCards[index];
-        auto* card = &FindControl<ZOptionCard>(this, key(about.control));
-        QStringList lines{TextWith("kNew_screen", key(about.ratio)), Text(key(about.keysKey))};
+        auto* card = &FindControl<ZOptionCard>(this, QString::fromUtf8(about.control));
+        QStringList lines{TextWith("kNew_screen", QString::fromUtf8(about.ratio)),
+                          Text(QString::fromUtf8(about.keysKey))};
         if (about.isNewest)
             lines += Text("kNew_newest");
         card->setLines(lines);
@@ -128,14 +125,15 @@ void CNewThemeDialog::say(const Field& field, Says how, const QString& textKey) 
 
 bool CNewThemeDialog::checkName() {
     const std::string_view problem = newNameProblem(chosen().name, _taken);
-    say(_name, problem.empty() ? Says::fine : Says::error, problem.empty() ? "kNew_name_free" : key(problem));
+    say(_name, problem.empty() ? Says::fine : Says::error,
+        problem.empty() ? "kNew_name_free" : QString::fromUtf8(problem));
     return problem.empty();
 }
 
 bool CNewThemeDialog::checkChinese() {
     const std::string_view problem = checkChineseName(chosen().chineseName);
     const bool isFine = problem.empty();
-    say(_chinese, isFine ? Says::hint : Says::error, key(chineseNameKey(problem)));
+    say(_chinese, isFine ? Says::hint : Says::error, QString::fromUtf8(chineseNameKey(problem)));
     return isFine;
 }
 

@@ -25,10 +25,6 @@ struct Job {
     ImportPlan plan;
 };
 
-QString words(std::string_view key) {
-    return QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size()));
-}
-
 std::string withoutSlash(std::string path) {
     while (path.size() > 1 && path.ends_with('/'))
         path.pop_back();
@@ -64,7 +60,7 @@ bool settle(std::vector<Job>& jobs, QWidget* window) {
     if (standing == 0)
         return true;
     const bool replace = jobs.size() == 1
-                             ? askYesNo(window, words(jobs.front().plan.messageKey), {}, refusesByDefault)
+                             ? askYesNo(window, QString::fromUtf8(jobs.front().plan.messageKey), {}, refusesByDefault)
                              : askYesNo(window, "kStart_replace_many", {QString::number(standing)}, refusesByDefault);
     if (!replace)
         std::erase_if(jobs, asks);
@@ -114,7 +110,7 @@ std::vector<std::string> importThemes(Workbench& bench, QWidget* window, const s
     for (const std::string& source : sources) {
         const ImportPlan plan = planOf(source, themes);
         if (plan.step == ImportPlan::Step::refuse && sources.size() == 1)
-            tellNote(window, words(plan.messageKey));
+            tellNote(window, QString::fromUtf8(plan.messageKey));
         if (plan.step == ImportPlan::Step::refuse)
             continue;
         themes.push_back(plan.name);
@@ -134,7 +130,7 @@ std::vector<std::string> importThemes(Workbench& bench, QWidget* window, const s
     const bool all = imported.size() == sources.size();
     const auto kind = all ? ZMessageBoxDlg::Kind::Success : ZMessageBoxDlg::Kind::Warning;
     if (sources.size() == 1)
-        tellNote(window, words(importResultKey(all)), {}, kind);
+        tellNote(window, QString::fromUtf8(importResultKey(all)), {}, kind);
     else
         tellNote(window, "kStart_import_summary",
                  {QString::number(imported.size()), QString::number(sources.size() - imported.size())}, kind);
