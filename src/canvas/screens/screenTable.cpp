@@ -1,0 +1,39 @@
+#include "canvas/screens/screenTable.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace zdt {
+
+namespace {
+
+std::vector<Screen> makeScreens() {
+    return {};
+}
+
+std::string folderName(std::string_view name) {
+    std::string folder(name);
+    std::replace(folder.begin(), folder.end(), ' ', '_');
+    return folder;
+}
+
+} // namespace
+
+std::span<const Screen> allScreens() {
+    static const std::vector<Screen> screens = makeScreens();
+    return screens;
+}
+
+std::span<const Screen> screensOf(std::string_view module) {
+    const std::span<const Screen> all = allScreens();
+    const auto isOfModule = [module](const Screen& screen) { return screen.module == module; };
+    const auto first = std::find_if(all.begin(), all.end(), isOfModule);
+    return {first, std::find_if_not(first, all.end(), isOfModule)};
+}
+
+std::string layerFile(const Screen& screen, const ScreenLayer& layer, bool chinese) {
+    return std::string("simplepic/") + (chinese ? "cn/" : "en/") + folderName(screen.module) + "/" +
+           folderName(screen.name) + "/" + layer.name + ".png";
+}
+
+} // namespace zdt

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "canvas/screens/screenLayer.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace zdt {
+
+/// All screens, by module in the order of the navigation, and a module's in the order of its strip: the groups of
+/// simple mode first, then the extra ones.
+[[nodiscard]] std::span<const Screen> allScreens();
+
+/// Those of a module; none for one that has no screens.
+[[nodiscard]] std::span<const Screen> screensOf(std::string_view module);
+
+/// Where the picture of a layer lies in the skin's folder: "simplepic/en/contacts/dial/title.png". Blanks in the names
+/// of module and screen become "_".
+[[nodiscard]] std::string layerFile(const Screen& screen, const ScreenLayer& layer, bool chinese);
+
+} // namespace zdt
