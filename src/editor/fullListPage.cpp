@@ -1,11 +1,11 @@
 #include "editor/fullListPage.h"
 
+#include "editor/changedMark.h"
 #include "editor/keyDetails.h"
 #include "editor/keyEditor.h"
 #include "editor/moduleWords.h"
 #include "kit/emptyState.h"
 #include "kit/icons.h"
-#include "kit/kitStyle.h"
 #include "kit/labels.h"
 #include "kit/layoutError.h"
 #include "kit/listView.h"
@@ -17,7 +17,6 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -31,26 +30,10 @@ namespace zdt {
 namespace {
 
 constexpr int hintIcon = 16;
-constexpr int dotIconSide = 10;
 constexpr int detailDelay = 40;
 
 QIcon iconOf(Icon sign) {
     return icon(sign, token::iconPlain);
-}
-
-/// The dot that marks what is changed, as an icon.
-QIcon dotIcon(double ratio) {
-    constexpr int side = dotIconSide;
-    constexpr double radius = 3;
-    QPixmap picture(QSize(side, side) * ratio);
-    picture.setDevicePixelRatio(ratio);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(token::accent);
-    painter.drawEllipse(QPointF(side / 2.0, side / 2.0), radius, radius);
-    return picture;
 }
 
 } // namespace
@@ -101,9 +84,7 @@ CFullListPage::~CFullListPage() {
 }
 
 void CFullListPage::connectBar() {
-    _changedOnly.setIcon(dotIcon(devicePixelRatioF()));
-    _changedOnly.setIconSize({dotIconSide, dotIconSide});
-    setStyleProperty(&_changedOnly, "withIcon", "text");
+    setChangedMark(_changedOnly);
     connect(&_search, &QLineEdit::textChanged, this, [this](const QString& text) {
         KeyFilter filter = _table.filter();
         filter.text = text;

@@ -43,6 +43,8 @@ public:
     /// Goes to a key, the names down to it joined by "/", and so to its module. False if the list has no such key.
     bool showLeaf(const std::string& keyText);
     void focusSearch();
+    /// Shows what others have changed.
+    void refresh() { reload(); }
 
     void Notify(const Notification& message) override;
 

@@ -3,6 +3,7 @@
 #include "editor/fullListPage.h"
 #include "editor/moduleWords.h"
 #include "editor/problemPage.h"
+#include "editor/simplePages.h"
 #include "kit/controlSearch.h"
 #include "kit/countButton.h"
 #include "kit/exclusiveFocus.h"
@@ -14,6 +15,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
 
 namespace zdt {
 
@@ -29,9 +31,43 @@ QString moduleOf(const ZCountButton& row) {
     return row.property("module").toString();
 }
 
-/// The row for what the list shows: its module, or everything.
+/// Makes the page of screens of a module.
+using MakeScreens = CColorAndPictureManagerPage* (*)(QStackedWidget&, QWidget*&, Workbench&);
+
+template <typename Page>
+CColorAndPictureManagerPage* makeScreens(QStackedWidget& stack, QWidget*& shown, Workbench& bench) {
+    return makePage<Page>(stack, shown, bench);
+}
+
+struct ScreensModule {
+    const char* module;
+    MakeScreens make;
+};
+
+constexpr std::array screensModules{
+    ScreensModule{"commonSetting", makeScreens<CSimpleGoblePage>},
+    ScreensModule{"launcher", makeScreens<CSimpleLauncherPage>},
+    ScreensModule{"contacts", makeScreens<CSimpleContactsPage>},
+    ScreensModule{"mms", makeScreens<CSimpleMmsPage>},
+    ScreensModule{"systemui", makeScreens<CSimpleSystemPage>},
+};
+
+const ScreensModule* screensModule(const QString& module) {
+    const auto found = std::find_if(screensModules.begin(), screensModules.end(),
+                                    [&](const ScreensModule& each) { return module == each.module; });
+    return found == screensModules.end() ? nullptr : &*found;
+}
+
+/// The key under which a page of screens shows a picture of the tree: its module and file. Others stay as they are.
+std::string pageKeyOf(const std::string& key) {
+    const std::string file = key.substr(key.rfind('/') + 1);
+    return file.ends_with(".png") ? groupOf(key) + "/" + file : key;
+}
+
+/// The row for what the list shows: its module, if that has no page of its own, or everything.
 QString rowFor(const CFullListPage& list) {
-    return list.module().empty() ? QString(allKeys) : QString::fromStdString(list.module());
+    const QString module = QString::fromStdString(list.module());
+    return module.isEmpty() || screensModule(module) ? QString(allKeys) : module;
 }
 
 } // namespace
@@ -71,6 +107,24 @@ void CEditorPages::makeProblems() {
     connect(_problems, &CProblemPage::countsChanged, this, &CEditorPages::showCounts);
 }
 
+bool CEditorPages::hasScreens(const QString& module) const {
+    return screensModule(module) && _bench.theme() && _bench.theme()->isBigTheme() &&
+           _bench.theme()->version() != unknownGeneration;
+}
+
+CColorAndPictureManagerPage* CEditorPages::screensPage(const QString& module) {
+    const ScreensModule* row = screensModule(module);
+    if (!row)
+        return nullptr;
+    ScreensPlace& place = _screens[module];
+    if (place.shown)
+        return place.page;
+    place.page = row->make(_place, place.shown, _bench);
+    if (place.page)
+        connect(place.page, &CColorAndPictureManagerPage::edited, this, [this] { _isListOld = true; });
+    return place.page;
+}
+
 void CEditorPages::prepare() {
     makeList();
     makeProblems();
@@ -82,6 +136,13 @@ void CEditorPages::showFirst() {
 }
 
 void CEditorPages::showModule(const QString& module) {
+    if (hasScreens(module)) {
+        static_cast<void>(screensPage(module));
+        _place.setCurrentWidget(_screens[module].shown);
+        checkRow(module);
+        emit changed();
+        return;
+    }
     makeList();
     if (_list && (module == allKeys || !_list->showModule(module.toStdString())))
         _list->showModule({});
@@ -89,6 +150,8 @@ void CEditorPages::showModule(const QString& module) {
 }
 
 void CEditorPages::showList(const QString& module) {
+    if (_list && std::exchange(_isListOld, false))
+        _list->refresh();
     _place.setCurrentWidget(_listPlace);
     checkRow(_list ? rowFor(*_list) : module);
     emit changed();
@@ -121,6 +184,11 @@ void CEditorPages::showKey(const QString& key) {
         emit descriptionRequested();
         return;
     }
+    if (hasScreens(module)) {
+        CColorAndPictureManagerPage* page = screensPage(module);
+        if (page && page->showKey(pageKeyOf(key.toStdString())))
+            return showModule(module);
+    }
     makeList();
     // Not all that can be wrong is a key: a whole file can't be read, or the lock screen's design lacks a picture.
     if (_list && _list->showLeaf(key.toStdString()))
@@ -129,8 +197,10 @@ void CEditorPages::showKey(const QString& key) {
         showModule(module);
 }
 
-void CEditorPages::focusSearch() {
-    if (showsList())
+void CEditorPages::searchAll() {
+    if (!showsList() || rowFor(*_list) != allKeys)
+        showModule(allKeys);
+    if (_list)
         _list->focusSearch();
 }
 

@@ -13,6 +13,7 @@ class QWidget;
 
 namespace zdt {
 
+class CColorAndPictureManagerPage;
 class CFullListPage;
 class CProblemPage;
 class ZCountButton;
@@ -20,7 +21,8 @@ class ZCountButton;
 /// The pages of the editor and the navigation that leads to them. A page is made when it is first shown; one whose
 /// layout is damaged says so in its place.
 ///
-/// A row of the navigation is a button with the property `module`: the module whose keys it shows, or "all".
+/// A row of the navigation is a button with the property `module`: the module that it shows, or "all" for every key. A
+/// module with shared settings has a page of screens, any other one the list of its keys.
 class CEditorPages : public QObject {
     Q_OBJECT
 
@@ -37,8 +39,8 @@ public:
     /// Shows the page that has a key, given as its path, and the key in it; that of its module, if it has no place
     /// there.
     void showKey(const QString& key);
-    /// Gives the search field of the page the keyboard.
-    void focusSearch();
+    /// Gives the keyboard to the search over the keys of all modules.
+    void searchAll();
     /// Shows what a big or a small theme has.
     void showKind();
     /// Makes what isn't made yet, so that the first visit is quick.
@@ -55,6 +57,9 @@ signals:
 private:
     void makeList();
     void makeProblems();
+    /// The page of screens of a module; null for a module without one, and for a page whose layout is damaged.
+    CColorAndPictureManagerPage* screensPage(const QString& module);
+    [[nodiscard]] bool hasScreens(const QString& module) const;
     void showList(const QString& module);
     [[nodiscard]] bool showsList() const;
     void showCounts();
@@ -65,7 +70,13 @@ private:
     std::vector<ZCountButton*> _rows;
     CFullListPage* _list = nullptr;
     CProblemPage* _problems = nullptr;
-    QWidget* _listPlace = nullptr; ///< The page, or what says why there is none.
+    struct ScreensPlace {
+        CColorAndPictureManagerPage* page = nullptr;
+        QWidget* shown = nullptr; ///< The page, or what says why there is none.
+    };
+    std::map<QString, ScreensPlace> _screens; ///< By module.
+    bool _isListOld = false;                  ///< Something was changed elsewhere.
+    QWidget* _listPlace = nullptr;            ///< The page, or what says why there is none.
     QWidget* _problemPlace = nullptr;
 };
 

@@ -219,7 +219,7 @@ void CMainFrameWnd::find() {
     if (tab() == Tab::start && _start)
         _start->focusSearch();
     else if (tab() == Tab::editor)
-        _pages->focusSearch();
+        _pages->searchAll();
 }
 
 CMainFrameWnd::Tab CMainFrameWnd::tab() const {

@@ -186,6 +186,9 @@ public:
     /// Both in one: sets the sources and writes their blocks. -3 if one can't be written; then the sources, and the
     /// blocks that were written, have their old values again.
     [[nodiscard]] int changeSimpleValue(const KeyPath& keyPath, const std::string& name, const std::string& value);
+    /// The same with a value for each source, as many as there are and in their order: the way back to what they were.
+    [[nodiscard]] int changeSimpleSources(const KeyPath& keyPath, const std::string& name,
+                                          const std::vector<std::string>& values);
 
     // What the author adds. A node that was made for a file which is then refused is removed again.
 
@@ -312,6 +315,8 @@ private:
 
     [[nodiscard]] ResNode* node(const KeyPath& keyPath) const;
     [[nodiscard]] int setLeaf(ResNode* leaf, const std::string& value);
+    /// Writes what `change` sets of an item's sources, or puts them back.
+    [[nodiscard]] int changeSimple(const KeyPath& keyPath, const std::string& name, const std::function<int()>& change);
     [[nodiscard]] SimpleModeImplNode* simpleItem(const KeyPath& keyPath, const std::string& name) const;
 
     /// What takes part in a check and a save, in the tree's order: all that is applicable, outside the skipped nodes,

@@ -51,19 +51,43 @@ bool ThemeResource::applySimple(const KeyPath& keyPath, const std::string& name)
     return item && item->save(true);
 }
 
-int ThemeResource::changeSimpleValue(const KeyPath& keyPath, const std::string& name, const std::string& value) {
+int ThemeResource::changeSimple(const KeyPath& keyPath, const std::string& name, const std::function<int()>& change) {
     std::vector<std::pair<ResNode*, std::string>> before;
     for (ResNode* each : simpleSources(keyPath, name))
         before.emplace_back(each, each->value());
-    if (const int code = setSimpleValue(keyPath, name, value))
+    const auto putBack = [&before] {
+        for (const auto& [node, old] : before)
+            node->setRawValue(old);
+    };
+    if (const int code = change()) {
+        putBack();
         return code;
+    }
     if (applySimple(keyPath, name))
         return returnCode::success;
-    for (const auto& [node, old] : before)
-        node->setRawValue(old);
+    putBack();
     // What couldn't be written just now still can't be; the others can.
     static_cast<void>(applySimple(keyPath, name));
     return returnCode::copyFailed;
+}
+
+int ThemeResource::changeSimpleValue(const KeyPath& keyPath, const std::string& name, const std::string& value) {
+    return changeSimple(keyPath, name, [&] { return setSimpleValue(keyPath, name, value); });
+}
+
+int ThemeResource::changeSimpleSources(const KeyPath& keyPath, const std::string& name,
+                                       const std::vector<std::string>& values) {
+    const std::vector<ResNode*> sources = simpleSources(keyPath, name);
+    ZDT_ASSERT(sources.size() == values.size(), source);
+    if (sources.empty())
+        return returnCode::notFound;
+    return changeSimple(keyPath, name, [&] {
+        for (std::size_t index = 0; index < sources.size(); ++index) {
+            if (const int code = sources[index]->setValue(values[index]))
+                return code;
+        }
+        return returnCode::success;
+    });
 }
 
 } // namespace zdt

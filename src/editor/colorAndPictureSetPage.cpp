@@ -1,0 +1,161 @@
+#include "editor/colorAndPictureSetPage.h"
+
+#include "editor/changedMark.h"
+#include "editor/colorSetPage.h"
+#include "editor/screenTab.h"
+#include "kit/exclusiveFocus.h"
+#include "kit/lateSignals.h"
+#include "kit/localisation.h"
+#include "kit/notificationNames.h"
+#include "kit/notifications.h"
+#include "kit/searchField.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace zdt {
+
+namespace {
+
+constexpr int side = 16;
+constexpr int tabGap = 24;
+constexpr int barHeight = 48;
+constexpr int footHeight = 32;
+
+/// A bar of the page's width with a hairline at its edge, and its row.
+QHBoxLayout* addBar(QVBoxLayout& column, const char* region, int height, int gap) {
+    auto* bar = new QFrame;
+    bar->setProperty("region", region);
+    bar->setFixedHeight(height);
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(side, 0, side, 0);
+    row->setSpacing(gap);
+    column.addWidget(bar);
+    return row;
+}
+
+} // namespace
+
+CColorAndPictureSetPage::CColorAndPictureSetPage(const QString& name, CPaintManagerUI& notifications, QWidget* parent)
+    : QWidget(parent)
+    , _name(name)
+    , _colourTab(new ScreenTab(this))
+    , _pictureTab(new ScreenTab(this))
+    , _search(new ZSearchField(this))
+    , _changedOnly(new QPushButton(this))
+    , _stack(new QStackedWidget(this))
+    , _colours(new CColorSetPage(name, notifications, this))
+    , _foot(new QLabel(this)) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    QHBoxLayout* tabs = addBar(*column, "sideHead", barHeight, tabGap);
+    tabs->addWidget(_colourTab);
+    tabs->addWidget(_pictureTab);
+    tabs->addStretch();
+    QHBoxLayout* find = addBar(*column, "sideHead", barHeight, side / 2);
+    find->addWidget(_search, 1);
+    find->addWidget(_changedOnly);
+    _stack->addWidget(_colours);
+    column->addWidget(_stack, 1);
+    addBar(*column, "foot", footHeight, 0)->addWidget(_foot, 1, Qt::AlignRight);
+    _foot->setProperty("type", "hint");
+
+    _colourTab->setObjectName(name + "|color|option");
+    _pictureTab->setObjectName(name + "|picture|option");
+    _search->setObjectName(name + "|find");
+    _changedOnly->setObjectName(name + "|changed");
+    _colourTab->setChecked(true);
+    tabToChosen({_colourTab, _pictureTab});
+    for (ScreenTab* tab : {_colourTab, _pictureTab}) {
+        connect(tab, &QAbstractButton::clicked, this,
+                [&notifications, tab] { notifications.SendNotify(tab, notify::click); });
+    }
+    _changedOnly->setCheckable(true);
+    _changedOnly->setProperty("kind", "toggle");
+    setChangedMark(*_changedOnly);
+    connect(_search, &QLineEdit::textChanged, this, &CColorAndPictureSetPage::filter);
+    connect(_changedOnly, &QPushButton::toggled, this, &CColorAndPictureSetPage::filter);
+    connect(_colours, &CColorSetPage::filterDropped, this, &CColorAndPictureSetPage::clearFilter);
+}
+
+CColorAndPictureSetPage::~CColorAndPictureSetPage() {
+    hearNoChildren(this);
+}
+
+void CColorAndPictureSetPage::relabel() {
+    _colourTab->setText(Text("kColours"));
+    _pictureTab->setText(Text("kPictures"));
+    const bool isColours = tab() == colourTab;
+    _search->setPlaceholderText(Text(isColours ? "kColours_find" : "kPictures_find"));
+    _search->setAccessibleName(_search->placeholderText());
+    _search->setClearTip(Text("kList_clear_search"));
+    _changedOnly->setText(Text("kList_changed"));
+    _changedOnly->setToolTip(Text("kList_changed_help"));
+}
+
+void CColorAndPictureSetPage::showColours(const ThemeResource& theme, const std::vector<ColourRow>& rows) {
+    relabel();
+    _colours->setRows(theme, rows);
+    showCounts();
+}
+
+void CColorAndPictureSetPage::refreshColour(const ThemeResource& theme, const ItemPath& path) {
+    _colours->refresh(theme, path);
+    showCounts();
+}
+
+void CColorAndPictureSetPage::showCounts() {
+    _colourTab->setCount(_colours->count());
+    _foot->setText(TextWith("kColours_count", _colours->count()) +
+                   TextWith("kList_changed_count", _colours->changedCount()));
+}
+
+void CColorAndPictureSetPage::setPictures(QWidget* pictures) {
+    _pictures = pictures;
+    _stack->addWidget(pictures);
+}
+
+void CColorAndPictureSetPage::setPictureCounts(int count, int /*changed*/) {
+    _pictureTab->setCount(count);
+}
+
+int CColorAndPictureSetPage::tab() const {
+    return _pictureTab->isChecked() ? pictureTab : colourTab;
+}
+
+void CColorAndPictureSetPage::selectTab(int tab) {
+    (tab == pictureTab ? _pictureTab : _colourTab)->setChecked(true);
+    _stack->setCurrentWidget(tab == pictureTab && _pictures ? _pictures : _colours);
+    _foot->parentWidget()->setVisible(tab == colourTab);
+    relabel();
+    filter();
+}
+
+void CColorAndPictureSetPage::filter() {
+    _colours->setFilter(tab() == colourTab ? _search->text() : QString(), _changedOnly->isChecked());
+    emit filterChanged();
+}
+
+void CColorAndPictureSetPage::clearFilter() {
+    _changedOnly->setChecked(false);
+    _search->clear();
+}
+
+void CColorAndPictureSetPage::focusSearch() {
+    _search->setFocus(Qt::ShortcutFocusReason);
+    _search->selectAll();
+}
+
+QString CColorAndPictureSetPage::filterText() const {
+    return _search->text();
+}
+
+bool CColorAndPictureSetPage::isChangedOnly() const {
+    return _changedOnly->isChecked();
+}
+
+} // namespace zdt
