@@ -12,8 +12,11 @@
 /// data; all measures are pixels of a screen of 1080 by 2160, from its top left.
 namespace zdt {
 
-inline constexpr int screenWidth = 1080;
-inline constexpr int screenHeight = 2160;
+inline constexpr int phoneWidth = 1080;
+inline constexpr int phoneHeight = 2160;
+
+/// Pixels that a text's picture has beyond its line at the left and right, for letters that lean out of it.
+inline constexpr int textInset = 6;
 
 struct Place {
     int x = 0;
@@ -34,11 +37,12 @@ enum class LayerKind {
 /// What the generator draws for a `shape` (its alpha alone counts) or an `art`.
 enum class DrawingKind {
     none,
-    text,     ///< A line of text, cut with an ellipsis where it is too long.
+    text,     ///< A line of text around the middle of the place, cut with an ellipsis where it is too long.
     icon,     ///< A character of the icon font, as high as `size`, in the middle of the place.
     panel,    ///< The whole place, its corners rounded by `radius`.
     ring,     ///< The outline of a panel, `stroke` wide, inside the place.
-    portrait, ///< Art: a person's picture in a disc; `variant` tells which.
+    portrait, ///< Art: a person's picture in a disc, or the letter that `english` and `chinese` give; `variant` tells
+              ///< which.
     photo,    ///< Art: a landscape, its corners rounded by `radius`; `variant` tells which.
     appIcon,  ///< Art: an application's icon; `variant` tells which.
 };

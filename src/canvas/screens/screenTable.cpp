@@ -1,6 +1,9 @@
 #include "canvas/screens/screenTable.h"
 
+#include "canvas/screens/screenLists.h"
+
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace zdt {
@@ -8,7 +11,12 @@ namespace zdt {
 namespace {
 
 std::vector<Screen> makeScreens() {
-    return {};
+    std::vector<Screen> all;
+    for (const auto& screens : {commonSettingScreens, launcherScreens, contactsScreens, mmsScreens, systemuiScreens}) {
+        for (Screen& screen : screens())
+            all.push_back(std::move(screen));
+    }
+    return all;
 }
 
 std::string folderName(std::string_view name) {

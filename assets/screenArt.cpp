@@ -1,0 +1,175 @@
+#include "assets/screenArt.h"
+
+#include "assets/picture.h"
+#include "assets/screenFigures.h"
+
+#include <QFont>
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QPainterPath>
+#include <QStringList>
+
+#include <string_view>
+
+namespace zdt::assets {
+
+namespace {
+
+constexpr const char* latinFace = "Inter";
+constexpr const char* chineseFace = "Noto Sans CJK SC";
+constexpr const char* signFace = "Material Icons";
+
+QString toText(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QFont face(const QStringList& families, int pixels, int weight) {
+    QFont font(families);
+    font.setPixelSize(pixels);
+    font.setWeight(static_cast<QFont::Weight>(weight));
+    // The letters are drawn as outlines, so that they look alike wherever the program is built.
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+QFont textFace(const Drawing& drawing) {
+    return face({latinFace, chineseFace}, drawing.size, drawing.weight);
+}
+
+/// The line of a text, cut where it is too long, around the place's middle.
+QPainterPath outlineOfText(const ScreenLayer& layer, bool chinese) {
+    const Drawing& drawing = layer.drawing;
+    const QFont font = textFace(drawing);
+    const QFontMetricsF metrics(font);
+    const double room = layer.place.width - 2 * textInset;
+    const QString text = metrics.elidedText(toText(chinese ? drawing.chinese : drawing.english), Qt::ElideRight, room);
+    const double spare = room - metrics.horizontalAdvance(text);
+    const double left = drawing.align == TextAlign::left ? 0 : drawing.align == TextAlign::right ? spare : spare / 2;
+    // Half the height of a capital letter, and about the middle of a Chinese character.
+    const double baseline = layer.place.height / 2.0 + 0.364 * drawing.size;
+    QPainterPath path;
+    path.addText(QPointF(textInset + left, baseline), font, text);
+    return path;
+}
+
+QPainterPath outlineOfIcon(const ScreenLayer& layer) {
+    const Place& place = layer.place;
+    QPainterPath path;
+    path.addText(QPointF(), face({signFace}, layer.drawing.size, QFont::Normal), QString(QChar(layer.drawing.icon)));
+    // The box of a sign stands on the baseline.
+    return path.translated((place.width - layer.drawing.size) / 2.0, (place.height + layer.drawing.size) / 2.0);
+}
+
+/// A rectangle with only some of its corners rounded.
+QPainterPath outlineOfPanel(const QRectF& area, double radius, unsigned corners) {
+    QPainterPath path;
+    path.addRoundedRect(area, radius, radius);
+    const QSizeF square(radius, radius);
+    const auto keepSquare = [&](unsigned bit, double x, double y) {
+        if (!(corners & bit))
+            path.addRect(QRectF(QPointF(x, y), square));
+    };
+    path.setFillRule(Qt::WindingFill);
+    keepSquare(corner::topLeft, area.left(), area.top());
+    keepSquare(corner::topRight, area.right() - radius, area.top());
+    keepSquare(corner::bottomLeft, area.left(), area.bottom() - radius);
+    keepSquare(corner::bottomRight, area.right() - radius, area.bottom() - radius);
+    return path;
+}
+
+QPainterPath outlineOfRing(const QRectF& area, const Drawing& drawing) {
+    const double stroke = drawing.stroke;
+    const double inner = drawing.radius > drawing.stroke ? drawing.radius - stroke : 0;
+    const QRectF hole = area.marginsRemoved({stroke, stroke, stroke, stroke});
+    return outlineOfPanel(area, drawing.radius, drawing.corners)
+        .subtracted(outlineOfPanel(hole, inner, drawing.corners));
+}
+
+/// What a shape is; empty for an art.
+QPainterPath outlineOf(const ScreenLayer& layer, bool chinese) {
+    const QRectF area(0, 0, layer.place.width, layer.place.height);
+    switch (layer.drawing.kind) {
+    case DrawingKind::text:
+        return outlineOfText(layer, chinese);
+    case DrawingKind::icon:
+        return outlineOfIcon(layer);
+    case DrawingKind::panel:
+        return outlineOfPanel(area, layer.drawing.radius, layer.drawing.corners);
+    case DrawingKind::ring:
+        return outlineOfRing(area, layer.drawing);
+    case DrawingKind::none:
+    case DrawingKind::portrait:
+    case DrawingKind::photo:
+    case DrawingKind::appIcon:
+        break;
+    }
+    return {};
+}
+
+void paintLetter(QPainter& painter, const QRectF& area, const QString& letter) {
+    const QFont font = face({latinFace, chineseFace}, static_cast<int>(area.height() * 0.42), 500);
+    QPainterPath path;
+    path.addText(QPointF(), font, letter);
+    painter.setBrush(Qt::white);
+    painter.drawPath(path.translated(area.center() - path.boundingRect().center()));
+}
+
+/// False for what is no art.
+bool paintArt(QPainter& painter, const QRectF& area, const Drawing& drawing, bool chinese) {
+    switch (drawing.kind) {
+    case DrawingKind::portrait:
+        if (const QString letter = toText(chinese ? drawing.chinese : drawing.english); letter.isEmpty()) {
+            paintPortrait(painter, area, drawing.variant);
+        } else {
+            paintPortraitDisc(painter, area, drawing.variant);
+            paintLetter(painter, area, letter);
+        }
+        return true;
+    case DrawingKind::photo:
+        paintPhoto(painter, area, drawing.radius, drawing.variant);
+        return true;
+    case DrawingKind::appIcon:
+        paintAppIcon(painter, area, drawing.variant);
+        return true;
+    case DrawingKind::none:
+    case DrawingKind::text:
+    case DrawingKind::icon:
+    case DrawingKind::panel:
+    case DrawingKind::ring:
+        break;
+    }
+    return false;
+}
+
+} // namespace
+
+QString missingFonts() {
+    QString missing;
+    for (const char* name : {latinFace, chineseFace, signFace}) {
+        if (QFontInfo(QFont(QStringList{name})).family() != QLatin1String(name))
+            missing += QLatin1String(name) + QLatin1Char('\n');
+    }
+    return missing;
+}
+
+QImage drawLayer(const ScreenLayer& layer, bool chinese) {
+    if (layer.place.width <= 0 || layer.place.height <= 0)
+        return {};
+    Canvas canvas(QSize(layer.place.width, layer.place.height));
+    QPainter& painter = canvas.painter();
+    if (layer.kind == LayerKind::shape) {
+        const QPainterPath outline = outlineOf(layer, chinese);
+        if (outline.isEmpty())
+            return {};
+        painter.fillPath(outline, QColor(255, 255, 255, layer.drawing.alpha));
+    } else if (layer.kind != LayerKind::art || !paintArt(painter, canvas.area(), layer.drawing, chinese)) {
+        return {};
+    }
+    return canvas.finish();
+}
+
+QRectF textExtent(const ScreenLayer& layer, bool chinese) {
+    return outlineOfText(layer, chinese).boundingRect();
+}
+
+} // namespace zdt::assets

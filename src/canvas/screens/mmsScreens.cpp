@@ -1,0 +1,9 @@
+#include "canvas/screens/screenLists.h"
+
+namespace zdt {
+
+std::vector<Screen> mmsScreens() {
+    return {};
+}
+
+} // namespace zdt
