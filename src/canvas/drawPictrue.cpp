@@ -1,0 +1,322 @@
+#include "canvas/drawPictrue.h"
+
+#include "canvas/previewComposition.h"
+#include "kit/focusRing.h"
+#include "kit/kitStyle.h"
+#include "kit/tokens.h"
+#include "packaging/pictureConversion.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <utility>
+
+namespace zdt {
+
+namespace {
+
+constexpr int air = 3;
+constexpr double lineWidth = 1.5;
+constexpr int outlineRadius = 3;
+constexpr int ringReach = token::ringGap + token::ringWidth;
+constexpr int pulseTime = 900;
+
+/// From nothing to all and back, twice.
+double pulseStrength(double time) {
+    const double wave = std::sin(2 * std::numbers::pi * time);
+    return wave * wave;
+}
+
+QPainterPath screenPath(const QRect& screen, int radius) {
+    QPainterPath path;
+    path.addRoundedRect(screen, radius, radius);
+    return path;
+}
+
+} // namespace
+
+CDrawPictrue::CDrawPictrue(QWidget* parent)
+    : QWidget(parent) {
+    setProperty("focusRing", false);
+    setFocusPolicy(Qt::NoFocus);
+    _pulse.setStartValue(0.0);
+    _pulse.setEndValue(1.0);
+    _pulse.setDuration(pulseTime);
+    connect(&_pulse, &QVariantAnimation::valueChanged, this, [this] { updatePlaces(_pulsing); });
+    connect(&_pulse, &QVariantAnimation::finished, this, [this] { updatePlaces(std::exchange(_pulsing, {})); });
+}
+
+CDrawPictrue::~CDrawPictrue() = default;
+
+void CDrawPictrue::setComposition(std::shared_ptr<PreviewComposition> composition) {
+    _pulse.stop();
+    point(std::nullopt);
+    _composition = std::move(composition);
+    _screen.forget();
+    _stack.reset();
+    _press.reset();
+    _outlined.clear();
+    _pulsing.clear();
+    update();
+}
+
+/// Brings the scaled image up to date, and tells what of the widget is different.
+QRegion CDrawPictrue::follow() {
+    const double ratio = devicePixelRatioF();
+    const QSize device(qRound(width() * ratio), qRound(height() * ratio));
+    QRegion changed;
+    for (const QRect& piece : _screen.follow(*_composition, device, _radius * ratio))
+        changed +=
+            QRectF(piece.x() / ratio, piece.y() / ratio, piece.width() / ratio, piece.height() / ratio).toAlignedRect();
+    return changed;
+}
+
+void CDrawPictrue::refresh() {
+    if (!_composition)
+        return;
+    // One that isn't seen catches up when it is painted.
+    if (!isVisible()) {
+        update();
+        return;
+    }
+    update(follow());
+    // Outlines follow what may have become larger or smaller.
+    if (!_outlined.empty() || !_pulsing.empty() || _pointed)
+        update();
+}
+
+void CDrawPictrue::setRadius(int radius) {
+    _radius = std::max(radius, 0);
+    update();
+}
+
+QRect CDrawPictrue::placeOf(std::size_t part) const {
+    const QRect ink = _composition ? _composition->inkOf(part) : QRect();
+    if (ink.isEmpty())
+        return {};
+    const double across = static_cast<double>(width()) / previewFrame.width();
+    const double down = static_cast<double>(height()) / previewFrame.height();
+    return QRectF(ink.x() * across, ink.y() * down, ink.width() * across, ink.height() * down).toAlignedRect();
+}
+
+QPoint CDrawPictrue::toFrame(const QPoint& point) const {
+    return rect().contains(point)
+               ? QPoint(point.x() * previewFrame.width() / width(), point.y() * previewFrame.height() / height())
+               : QPoint(-1, -1);
+}
+
+void CDrawPictrue::updatePlaces(const std::vector<std::size_t>& parts) {
+    constexpr int reach = air + ringReach + 2;
+    for (const std::size_t part : parts)
+        update(placeOf(part).adjusted(-reach, -reach, reach, reach));
+}
+
+void CDrawPictrue::setOutlined(std::vector<std::size_t> parts) {
+    updatePlaces(_outlined);
+    _outlined = std::move(parts);
+    updatePlaces(_outlined);
+}
+
+void CDrawPictrue::pulseParts(std::vector<std::size_t> parts) {
+    _pulse.stop();
+    updatePlaces(_pulsing);
+    _pulsing = std::move(parts);
+    if (!_pulsing.empty())
+        _pulse.start();
+}
+
+void CDrawPictrue::setInspecting(bool isInspecting) {
+    if (_isInspecting == isInspecting)
+        return;
+    point(std::nullopt);
+    _isInspecting = isInspecting;
+    setMouseTracking(isInspecting);
+    setFocusPolicy(isInspecting ? Qt::StrongFocus : Qt::NoFocus);
+    if (isInspecting)
+        setCursor(Qt::CrossCursor);
+    else
+        unsetCursor();
+    if (!isInspecting)
+        clearFocus();
+}
+
+bool CDrawPictrue::savePreview(const std::string& path, int quality) {
+    return _composition && writeJpeg(path, _composition->frame(), quality);
+}
+
+bool CDrawPictrue::showsRing() const {
+    return _isWalking && hasFocus() && FocusRing::byKeyboard();
+}
+
+void CDrawPictrue::paintEvent(QPaintEvent* event) {
+    if (!_composition || rect().isEmpty())
+        return;
+    if (const QRegion late = follow() - event->region(); !late.isEmpty())
+        update(late);
+    QPainter painter(this);
+    const double ratio = devicePixelRatioF();
+    for (const QRect& piece : event->region()) {
+        const QRectF source(piece.x() * ratio, piece.y() * ratio, piece.width() * ratio, piece.height() * ratio);
+        painter.drawImage(QRectF(piece), _screen.image(), source);
+    }
+    if (_outlined.empty() && _pulsing.empty() && !_pointed)
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (_radius > 0)
+        painter.setClipPath(screenPath(rect(), _radius), Qt::IntersectClip);
+    for (const std::size_t part : _outlined)
+        paintOutline(painter, part, 1);
+    const bool isStill = reducedMotion();
+    for (const std::size_t part : _pulsing)
+        paintOutline(painter, part, isStill ? 1 : pulseStrength(_pulse.currentValue().toDouble()));
+    if (_pointed && showsRing())
+        paintRing(painter);
+    else if (_pointed && std::find(_outlined.begin(), _outlined.end(), *_pointed) == _outlined.end())
+        paintOutline(painter, *_pointed, 1);
+}
+
+void CDrawPictrue::paintOutline(QPainter& painter, std::size_t part, double strength) const {
+    const QRect place = placeOf(part);
+    if (place.isEmpty())
+        return;
+    const QRectF inside = QRectF(rect()).adjusted(1, 1, -1, -1);
+    const QRectF line = QRectF(place).adjusted(-air, -air, air, air) & inside;
+    const double radius = line == inside ? std::max(_radius - 1, outlineRadius) : outlineRadius;
+    painter.setOpacity(strength);
+    painter.setPen(QPen(token::outlineLine, lineWidth));
+    painter.setBrush(token::outlineFill);
+    painter.drawRoundedRect(line, radius, radius);
+    painter.setOpacity(1);
+}
+
+void CDrawPictrue::paintRing(QPainter& painter) const {
+    constexpr double half = token::ringWidth / 2.0;
+    constexpr int reach = ringReach - half;
+    const QRectF inside = QRectF(rect()).adjusted(half, half, -half, -half);
+    const QRectF line = QRectF(placeOf(*_pointed)).adjusted(-reach, -reach, reach, reach) & inside;
+    const double radius = line == inside ? std::max(_radius - 1, outlineRadius) : outlineRadius;
+    painter.setPen(QPen(token::accent, token::ringWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(line, radius, radius);
+}
+
+/// Moves what is pointed at, and tells.
+void CDrawPictrue::point(std::optional<std::size_t> part) {
+    if (_pointed == part)
+        return;
+    if (_pointed)
+        updatePlaces({*_pointed});
+    _pointed = part;
+    if (!part) {
+        emit unpointed();
+        return;
+    }
+    updatePlaces({*part});
+    emit pointed(QString::fromStdString(_composition->parts()[*part].key), placeOf(*part));
+}
+
+void CDrawPictrue::pickPart(std::optional<std::size_t> part) {
+    if (part && *part < _composition->parts().size())
+        emit picked(QString::fromStdString(_composition->parts()[*part].key));
+}
+
+void CDrawPictrue::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    _press = event->position().toPoint();
+}
+
+void CDrawPictrue::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint at = event->position().toPoint();
+    if (!_isInspecting || !_composition || (_pointed && !_isWalking && _stack.isAtClick(at))) {
+        event->setAccepted(_press.has_value());
+        return;
+    }
+    _isWalking = false;
+    const std::vector<std::size_t> parts = keyedPartsAt(*_composition, toFrame(at));
+    point(parts.empty() ? std::nullopt : std::optional(parts.front()));
+}
+
+void CDrawPictrue::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    const QPoint at = event->position().toPoint();
+    const std::optional<QPoint> press = std::exchange(_press, std::nullopt);
+    if (!press || !_composition || (*press - at).manhattanLength() > air || !rect().contains(at))
+        return;
+    const std::optional<std::size_t> part = _stack.pick(*_composition, at, toFrame(at));
+    _isWalking = false;
+    if (_isInspecting)
+        point(part);
+    pickPart(part);
+}
+
+void CDrawPictrue::leaveEvent(QEvent*) {
+    if (!_isWalking)
+        point(std::nullopt);
+}
+
+void CDrawPictrue::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        walkTo(event->key());
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        pickPart(_pointed);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+/// From key to key, with an end at both ends.
+void CDrawPictrue::walkTo(int key) {
+    if (!_composition || !_isInspecting)
+        return;
+    const std::vector<std::size_t> walk = walkOf(*_composition);
+    if (walk.empty())
+        return;
+    const auto found = std::find(walk.begin(), walk.end(), _pointed.value_or(walk.front()));
+    const auto last = static_cast<std::ptrdiff_t>(walk.size()) - 1;
+    std::ptrdiff_t at = found == walk.end() ? 0 : found - walk.begin();
+    if (key == Qt::Key_Home)
+        at = 0;
+    else if (key == Qt::Key_End)
+        at = last;
+    else if (_isWalking)
+        at += key == Qt::Key_Right || key == Qt::Key_Down ? 1 : -1;
+    _isWalking = true;
+    point(walk[static_cast<std::size_t>(std::clamp(at, std::ptrdiff_t{0}, last))]);
+    if (_pointed)
+        updatePlaces({*_pointed});
+}
+
+void CDrawPictrue::focusInEvent(QFocusEvent* event) {
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+        walkTo(Qt::Key_Home);
+    QWidget::focusInEvent(event);
+}
+
+void CDrawPictrue::focusOutEvent(QFocusEvent* event) {
+    if (std::exchange(_isWalking, false))
+        point(std::nullopt);
+    QWidget::focusOutEvent(event);
+}
+
+} // namespace zdt

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "canvas/inkMask.h"
+#include "canvas/pointFile.h"
+#include "kit/skinFolder.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+
+namespace zdt {
+
+/// The shapes of the pictures that take a colour, by path: each is found out once and then kept, those of the skin in a
+/// file too. For the interface's thread.
+class ImagePoints {
+public:
+    explicit ImagePoints(SkinRoots roots = skinRoots());
+
+    /// The shape of a picture; null if it can't be read. One that was replaced is read again.
+    [[nodiscard]] std::shared_ptr<const InkMask> of(const std::string& picture);
+
+private:
+    struct Held {
+        std::string stamp;
+        std::shared_ptr<const InkMask> mask;
+        std::uint64_t usedAt = 0;
+    };
+
+    [[nodiscard]] std::shared_ptr<const InkMask> read(const std::string& picture);
+    /// What the file calls a picture: its path from "skin/" on. Empty for one that isn't the skin's, or is too long.
+    [[nodiscard]] std::string storedName(const std::string& picture) const;
+    void trim();
+
+    SkinRoots _roots;
+    PointFile _file;
+    std::map<std::string, Held> _held;
+    std::uint64_t _uses = 0;
+};
+
+/// That of the process, with its file in the workspace.
+[[nodiscard]] ImagePoints& imagePoints();
+
+} // namespace zdt
