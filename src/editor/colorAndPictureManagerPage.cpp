@@ -170,7 +170,7 @@ void CColorAndPictureManagerPage::startAnew() {
 
 void CColorAndPictureManagerPage::showWords() {
     _title.setText(moduleWord(_module));
-    _count.setText(TextWith(screenCount() == 1 ? "kScreens_count_one" : "kScreens_count", screenCount()));
+    _count.setText(screenCount() == 1 ? Text("kScreens_count_one") : TextWith("kScreens_count", screenCount()));
     sayHint({});
     showZoom();
 }

@@ -7,6 +7,7 @@
 #include "editor/colorItem.h"
 #include "editor/colorSetPage.h"
 #include "editor/colourTyping.h"
+#include "editor/screenParts.h"
 #include "kit/colourDialog.h"
 #include "kit/localisation.h"
 #include "kit/messageBoxes.h"

@@ -20,6 +20,8 @@ namespace zdt {
 
 namespace {
 
+/// The page's own line at its left.
+constexpr int edge = 1;
 constexpr int side = 16;
 constexpr int tabGap = 24;
 constexpr int barHeight = 48;
@@ -50,7 +52,7 @@ CColorAndPictureSetPage::CColorAndPictureSetPage(const QString& name, CPaintMana
     , _colours(new CColorSetPage(name, notifications, this))
     , _foot(new QLabel(this)) {
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
+    column->setContentsMargins(edge, 0, 0, 0);
     column->setSpacing(0);
     QHBoxLayout* tabs = addBar(*column, "sideHead", barHeight, tabGap);
     tabs->addWidget(_colourTab);
@@ -59,6 +61,8 @@ CColorAndPictureSetPage::CColorAndPictureSetPage(const QString& name, CPaintMana
     QHBoxLayout* find = addBar(*column, "sideHead", barHeight, side / 2);
     find->addWidget(_search, 1);
     find->addWidget(_changedOnly);
+    setProperty("region", "side");
+    setAttribute(Qt::WA_StyledBackground);
     _stack->addWidget(_colours);
     column->addWidget(_stack, 1);
     addBar(*column, "foot", footHeight, 0)->addWidget(_foot, 1, Qt::AlignRight);
