@@ -9,7 +9,9 @@ namespace zdt {
 
 namespace {
 
-constexpr std::uint32_t one = 1U << 12;
+/// What the weights of a pixel sum up to. Rows have bytes of weights, so that their sums fit 16 bits.
+constexpr std::uint32_t allRows = 1U << 8;
+constexpr std::uint32_t allColumns = 1U << 12;
 constexpr std::size_t channels = 4;
 
 /// How much of a source pixel belongs to a target pixel that covers [start, end) of the source.
@@ -26,10 +28,10 @@ double triangleWeight(int pixel, double centre) {
 FrameScaler::FrameScaler(const QSize& from, const QSize& to)
     : _from(from)
     , _to(to)
-    , _across(axisOf(from.width(), to.width()))
-    , _down(axisOf(from.height(), to.height())) {}
+    , _across(axisOf(from.width(), to.width(), allColumns))
+    , _down(axisOf(from.height(), to.height(), allRows)) {}
 
-FrameScaler::Axis FrameScaler::axisOf(int from, int to) {
+FrameScaler::Axis FrameScaler::axisOf(int from, int to, std::uint32_t all) {
     Axis axis;
     const double step = static_cast<double>(from) / to;
     const bool isSmaller = step >= 1;
@@ -45,9 +47,9 @@ FrameScaler::Axis FrameScaler::axisOf(int from, int to) {
             sum += weights.back();
         }
         axis.shares.push_back({first, last - first + 1, axis.weights.size()});
-        std::uint32_t left = one;
+        std::uint32_t left = all;
         for (const double weight : weights) {
-            const auto rounded = std::min(left, static_cast<std::uint32_t>(std::lround(weight / sum * one)));
+            const auto rounded = std::min(left, static_cast<std::uint32_t>(std::lround(weight / sum * all)));
             axis.weights.push_back(rounded);
             left -= rounded;
         }
@@ -75,23 +77,22 @@ QRect FrameScaler::reachOf(const QRect& piece) const {
 void FrameScaler::sumRows(const QImage& source, const Share& rows, int left, int right) {
     const std::size_t begin = static_cast<std::size_t>(left) * channels;
     const std::size_t end = static_cast<std::size_t>(right) * channels;
-    std::uint32_t* sums = _sums.data();
-    std::fill(sums + begin, sums + end, one / 32);
+    std::uint16_t* sums = _sums.data();
+    std::fill(sums + begin, sums + end, std::uint16_t{0});
     for (int i = 0; i < rows.count; ++i) {
         const uchar* bytes = source.constScanLine(rows.first + i);
-        const std::uint32_t weight = _down.weights[rows.weights + static_cast<std::size_t>(i)];
+        const auto weight = static_cast<std::uint16_t>(_down.weights[rows.weights + static_cast<std::size_t>(i)]);
         for (std::size_t at = begin; at < end; ++at)
-            sums[at] += bytes[at] * weight;
+            sums[at] = static_cast<std::uint16_t>(sums[at] + static_cast<std::uint16_t>(bytes[at] * weight));
     }
-    // Four bits behind the point are left, so that the sums of the columns stay below 32 bits.
-    for (std::size_t at = begin; at < end; ++at)
-        sums[at] >>= 8;
 }
 
 void FrameScaler::scale(const QImage& source, QImage& target, const QRect& area) {
     const QRect wanted = area & QRect(QPoint(), _to);
     if (wanted.isEmpty())
         return;
+    constexpr int shift = 20; // Of both weights.
+    constexpr std::uint32_t half = 1U << (shift - 1);
     _sums.resize(static_cast<std::size_t>(_from.width()) * channels);
     const Share& firstColumn = _across.shares[static_cast<std::size_t>(wanted.left())];
     const Share& lastColumn = _across.shares[static_cast<std::size_t>(wanted.right())];
@@ -104,12 +105,12 @@ void FrameScaler::scale(const QImage& source, QImage& target, const QRect& area)
             std::array<std::uint32_t, channels> sums{};
             for (int i = 0; i < share.count; ++i) {
                 const std::uint32_t weight = _across.weights[share.weights + static_cast<std::size_t>(i)];
-                const std::uint32_t* column = &_sums[static_cast<std::size_t>(share.first + i) * channels];
+                const std::uint16_t* column = &_sums[static_cast<std::size_t>(share.first + i) * channels];
                 for (std::size_t channel = 0; channel < channels; ++channel)
                     sums[channel] += column[channel] * weight;
             }
             for (std::size_t channel = 0; channel < channels; ++channel)
-                pixel[channel] = static_cast<uchar>((sums[channel] + (one << 3)) >> 16);
+                pixel[channel] = static_cast<uchar>((sums[channel] + half) >> shift);
         }
     }
 }

@@ -25,7 +25,7 @@ public:
     void scale(const QImage& source, QImage& target, const QRect& area);
 
 private:
-    /// For a pixel of the target: where its share of the source begins, and the weights of it, which sum up to `one`.
+    /// For a pixel of the target: where its share of the source begins, and the weights of it.
     struct Share {
         int first = 0;
         int count = 0;
@@ -36,14 +36,14 @@ private:
         std::vector<std::uint32_t> weights;
     };
 
-    [[nodiscard]] static Axis axisOf(int from, int to);
+    [[nodiscard]] static Axis axisOf(int from, int to, std::uint32_t all);
     void sumRows(const QImage& source, const Share& rows, int left, int right);
 
     QSize _from;
     QSize _to;
     Axis _across;
     Axis _down;
-    std::vector<std::uint32_t> _sums; ///< The channels of one row of the source's columns, 8 bits behind the point.
+    std::vector<std::uint16_t> _sums; ///< The channels of one row of the source's columns, 8 bits behind the point.
 };
 
 } // namespace zdt
