@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -134,7 +135,9 @@ PreparedPicture preparePicture(const PictureEntry& entry, const std::string& pat
 StoredPicture storePicture(ThemeResource& theme, const PictureEntry& entry, const std::string& file,
                            const PictureChanged& changed) {
     StoredPicture stored;
-    const KeptFiles before(entry);
+    std::optional<KeptFiles> before;
+    if (changed)
+        before.emplace(entry);
     const int code = orAbsent(changeKey(theme, keyRowOf(theme, entry), file));
     const bool isShared = entry.module == sharedModule;
     (isShared ? stored.pageResult : stored.storeResult) = code;
@@ -142,7 +145,7 @@ StoredPicture storePicture(ThemeResource& theme, const PictureEntry& entry, cons
         return stored;
     stored.pageResult = changed(entry.name, file);
     if (stored.pageResult != 0)
-        before.restore(theme, entry);
+        before->restore(theme, entry);
     return stored;
 }
 

@@ -1,5 +1,6 @@
 #include "editor/problemReasons.h"
 
+#include "editor/batchPlan.h"
 #include "editor/fileWords.h"
 #include "model/returnCode.h"
 #include "modules/themeNode.h"
@@ -115,6 +116,8 @@ std::vector<Sentence> fileReason(int code, const FileFacts& facts) {
 }
 
 std::vector<Sentence> reasonOf(const ThemeResource* theme, const Problem& problem) {
+    if (const int number = batchReasonNumber(problem.code))
+        return {{"kBatch_reason_" + std::to_string(number), {}}};
     std::vector<Sentence> reason;
     if (theme)
         reason = knownReason(*theme, problem, nodeOf(*theme, problem));

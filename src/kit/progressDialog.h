@@ -26,6 +26,8 @@ public:
     void offerCancel(const QString& text);
     /// To be called by the job, from any thread.
     [[nodiscard]] bool cancelRequested() const { return _cancel; }
+    /// The same for work that looks at it by itself.
+    [[nodiscard]] const std::atomic<bool>& cancelFlag() const { return _cancel; }
 
     /// Shows the dialog, does the job and waits for its end. False if the job gave false or threw; `error` tells what
     /// was thrown.

@@ -1,0 +1,283 @@
+#include "editor/batchUpload.h"
+
+#include "editor/batchCompile.h"
+#include "editor/batchDialog.h"
+#include "editor/batchWords.h"
+#include "editor/pictureTable.h"
+#include "kit/localisation.h"
+#include "kit/messageBoxes.h"
+#include "kit/notificationNames.h"
+#include "kit/progressDialog.h"
+#include "kit/skinFolder.h"
+#include "kit/workbench.h"
+#include "support/fileComparison.h"
+#include "support/files.h"
+
+#include <QTemporaryDir>
+
+#include <utility>
+
+namespace zdt {
+
+namespace {
+
+/// Of the progress, what compiling takes where there is something to compile.
+constexpr double compilingShare = 0.7;
+/// Milliseconds between two looks at whether the author cancelled.
+constexpr int cancelStep = 50;
+/// A batch's list of files, as the chooser names it.
+constexpr const char* pngPattern = " (*.png)";
+constexpr const char* ninePatchPattern = " (*.9.png)";
+
+std::string compileFolder() {
+    const std::string folder = workspaceFolder() + "Temp9Png/";
+    static_cast<void>(makePath(folder));
+    return folder;
+}
+
+bool isOwnPicture(const PictureEntry& entry) {
+    const KeyPlace& shown = entry.places.front();
+    return !sameFiles(shown.value, shown.fallback);
+}
+
+} // namespace
+
+/// A batch that is under way.
+struct BatchUpload::Work {
+    std::vector<std::string> given;
+    std::vector<PictureGroup> groups;
+    std::vector<BatchFile> files;
+    std::vector<BatchMatch> matched;
+};
+
+BatchUpload::BatchUpload(Workbench& bench, std::string module, QWidget& page)
+    : _bench(bench)
+    , _module(std::move(module))
+    , _page(page) {
+    _bench.notifications().AddNotifier(*this);
+}
+
+BatchUpload::~BatchUpload() = default;
+
+void BatchUpload::askFiles() {
+    const std::uint64_t theme = _bench.themeSerial();
+    const QStringList files =
+        pictureChoice.files(_page.window(), Text("kBatch_choose"), Text("kBatch_filter") + pngPattern);
+    if (theme == _bench.themeSerial())
+        start(files);
+}
+
+void BatchUpload::tellHow() {
+    ZMessageBoxDlg::tell({ZMessageBoxDlg::Kind::Info, "kDialog_Title_Desc_Info", "kCommon_upload_picture_info", {},
+                          "kConfirm", {}},
+                         Text, _page.window());
+}
+
+void BatchUpload::start(const QStringList& files) {
+    if (_isBusy || files.isEmpty() || !_bench.theme())
+        return;
+    _pendingFiles = files;
+    _theme = _bench.themeSerial();
+    _bench.notifications().SendNotify(this, notify::Notify_Drag_File_Simple, compiling, 0, true);
+}
+
+void BatchUpload::Notify(const Notification& message) {
+    if (message.sender != this)
+        return;
+    if (message.name == notify::Notify_Drag_File_Simple_9PNG)
+        workerEnded(static_cast<std::size_t>(message.wParam));
+    else if (message.name != notify::Notify_Drag_File_Simple)
+        return;
+    else if (message.wParam == storing)
+        _storing.release();
+    else if (!_isBusy && !_pendingFiles.isEmpty())
+        run();
+}
+
+void BatchUpload::workerEnded(std::size_t run) {
+    _workerDone[run] = true;
+    if (_workerDone.size() == _runs)
+        _bench.notifications().SendNotify(this, notify::Notify_Drag_File_Simple, storing);
+}
+
+void BatchUpload::run() {
+    const QStringList files = std::exchange(_pendingFiles, {});
+    if (!_bench.theme() || _theme != _bench.themeSerial())
+        return;
+    const QPointer<BatchUpload> self(this);
+    _isBusy = true;
+    _workerDone.clear();
+    _runs = 0;
+    static_cast<void>(_storing.tryAcquire(_storing.available()));
+    Work batch;
+    for (const QString& file : files)
+        batch.given.push_back(file.toStdString());
+    batch.groups = pictureGroupsOf(*_bench.theme(), _module);
+    bool isWhole = false;
+    {
+        ZProgressDialog dialog(Text("kIcon_Simple_BatchUpload_Loading"), _page.window());
+        dialog.offerCancel(Text("kCancel"));
+        isWhole = dialog.run([&](const Progress& progress) { return work(batch, dialog, progress); });
+    }
+    if (!self)
+        return;
+    takeResult(batch, !isWhole);
+    _isBusy = false;
+    _bench.notifications().SendNotify(this, notify::Notify_ReloadDataMsg, 0, 0, true);
+    emit finished(_result);
+    if (self)
+        showResult();
+}
+
+/// On the thread of the progress dialog. The theme is touched on the interface thread alone.
+bool BatchUpload::work(Work& batch, ZProgressDialog& dialog, const Progress& progress) {
+    const QPointer<QObject> self(this);
+    const QTemporaryDir folder(QString::fromStdString(compileFolder()) + "many-XXXXXX");
+    batch.files = planBatch(expandFiles(batch.given), _module, batch.groups);
+    const std::vector<std::size_t> patches = ninePatchesOf(batch.files);
+    _runs = patches.empty() ? 0 : workerCount(patches.size());
+    BatchCompiling with{compiler, folder.path().toStdString() + "/", &dialog.cancelFlag(), [&](std::size_t run) {
+                            _bench.notifications().SendNotifyFrom(self, notify::Notify_Drag_File_Simple_9PNG,
+                                                                  static_cast<std::intptr_t>(run));
+                        }};
+    if (!compileBatch(batch.files, patches, with, [&](double done) { progress(done * compilingShare); }))
+        return false;
+    if (patches.empty())
+        _bench.notifications().SendNotifyFrom(self, notify::Notify_Drag_File_Simple, storing);
+    if (!waitForStoring(dialog))
+        return false;
+    const double begin = patches.empty() ? 0 : compilingShare;
+    for (std::size_t at = 0; at < batch.files.size(); ++at) {
+        if (dialog.cancelRequested())
+            return false;
+        if (batch.files[at].isFit())
+            QMetaObject::invokeMethod(
+                this, [&] { storeOne(batch, batch.files[at]); }, Qt::BlockingQueuedConnection);
+        progress(begin + (1 - begin) * static_cast<double>(at + 1) / static_cast<double>(batch.files.size()));
+    }
+    return true;
+}
+
+bool BatchUpload::waitForStoring(const ZProgressDialog& dialog) {
+    while (!dialog.cancelRequested()) {
+        if (_storing.tryAcquire(1, cancelStep))
+            return true;
+    }
+    return false;
+}
+
+void BatchUpload::storeOne(Work& batch, BatchFile& file) {
+    PictureEntry* entry = findEntry(batch.groups, file.key);
+    if (!entry || !_bench.theme() || _theme != _bench.themeSerial()) {
+        file.state = BatchState::unreadable;
+        return;
+    }
+    const bool wasOwn = isOwnPicture(*entry);
+    file.state = stateOfCode(storePicture(*_bench.theme(), *entry, file.file, pictureChanged).code());
+    if (file.state == BatchState::fine)
+        batch.matched.push_back({file.key, file.path, wasOwn});
+}
+
+void BatchUpload::takeResult(const Work& batch, bool cancelled) {
+    _result = {};
+    _result.matched = batch.matched;
+    _result.cancelled = cancelled;
+    for (const BatchRefusal& refusal : refusalsOf(_module, batch.files)) {
+        _result.refused.push_back(refusal);
+        _result.typeMismatches += refusal.file.state == BatchState::wrongType ? 1 : 0;
+        if (refusal.file.isClaimed())
+            problemFiles[refusal.file.key] = refusal;
+    }
+    for (const BatchMatch& match : _result.matched)
+        problemFiles.erase(match.key);
+    _groups = batch.groups;
+    if (_bench.theme() && _theme == _bench.themeSerial())
+        applyBatch(*_bench.theme(), _result, _groups);
+}
+
+void BatchUpload::showResult() {
+    if (_result.cancelled && _result.matched.empty())
+        return;
+    if (_result.refused.empty()) {
+        const auto words = [this](const QString& key) {
+            return key == "kIcon_Simple_BatchUpload_Situation" ? situationText(_result) : Text(key);
+        };
+        ZMessageBoxDlg::tell({ZMessageBoxDlg::Kind::Success, "kDialog_Title_Desc_Info",
+                              "kIcon_Simple_BatchUpload_Situation", {}, "kConfirm", {}},
+                             words, _page.window());
+        return;
+    }
+    BatchDialog dialog(_bench, _result, _page.window());
+    connect(&dialog, &BatchDialog::anotherAsked, this, [&](int index) { chooseAnother(dialog, index); });
+    const int answer = dialog.exec();
+    _result = dialog.result();
+    if (answer == BatchDialog::showProblems)
+        listProblems();
+    else if (answer == BatchDialog::uploadMore)
+        askFiles();
+}
+
+void BatchUpload::listProblems() {
+    const std::vector<Problem> problems = problemsOf(_result, _groups);
+    _bench.notifications().SendNotify(this, notify::Notify_Error_List_Msg, 0,
+                                      reinterpret_cast<std::intptr_t>(&problems));
+}
+
+PictureRefusal BatchUpload::replaceOne(PictureEntry& entry, const std::string& path) {
+    PreparedPicture prepared;
+    const std::string workspace = workspaceFolder();
+    const auto prepare = [&] { prepared = preparePicture(entry, path, compiler, workspace); };
+    if (entry.isNinePatch()) {
+        ZProgressDialog dialog(Text("kIcon_Simple_BatchUpload_Loading"), _page.window());
+        static_cast<void>(dialog.run([&](const Progress&) {
+            prepare();
+            return true;
+        }));
+    } else {
+        prepare();
+    }
+    if (!_bench.theme() || _theme != _bench.themeSerial())
+        return {"kBatch_reason_41", {}};
+    return finishUpload(*_bench.theme(), entry, path, prepared, pictureChanged);
+}
+
+void BatchUpload::chooseAnother(BatchDialog& dialog, int index) {
+    const BatchFile file = dialog.result().refused[static_cast<std::size_t>(index)].file;
+    PictureEntry* entry = findEntry(_groups, file.key);
+    if (!entry)
+        return;
+    const QString pattern = entry->isNinePatch() ? ninePatchPattern : pngPattern;
+    const QString path = pictureChoice.file(&dialog, Text("kBatch_choose_one"), Text("kBatch_filter") + pattern);
+    if (path.isEmpty())
+        return;
+    const bool wasOwn = isOwnPicture(*entry);
+    const PictureRefusal refusal = replaceOne(*entry, path.toStdString());
+    if (!refusal.isNone()) {
+        QString words = Text(refusal.message);
+        for (const QString& argument : refusal.arguments)
+            words = words.arg(argument);
+        return dialog.setReason(index, words);
+    }
+    problemFiles.erase(file.key);
+    dialog.setStored(index, {file.key, path.toStdString(), wasOwn});
+    emit replaced(QString::fromStdString(file.key));
+}
+
+void applyBatch(const ThemeResource& theme, const BatchResult& result, std::vector<PictureGroup>& groups) {
+    for (const BatchRefusal& refusal : result.refused) {
+        if (PictureEntry* entry = findEntry(groups, refusal.file.key)) {
+            entry->failed = true;
+            entry->error = refusalWords(refusal);
+        }
+    }
+    for (const BatchMatch& match : result.matched) {
+        if (PictureEntry* entry = findEntry(groups, match.key)) {
+            entry->failed = false;
+            entry->error.clear();
+            entry->uploadedPath = match.path;
+            refreshEntry(theme, *entry);
+        }
+    }
+}
+
+} // namespace zdt
