@@ -68,9 +68,9 @@ void BatchUpload::askFiles() {
 }
 
 void BatchUpload::tellHow() {
-    ZMessageBoxDlg::tell({ZMessageBoxDlg::Kind::Info, "kDialog_Title_Desc_Info", "kCommon_upload_picture_info", {},
-                          "kConfirm", {}},
-                         Text, _page.window());
+    ZMessageBoxDlg::tell(
+        {ZMessageBoxDlg::Kind::Info, "kDialog_Title_Desc_Info", "kCommon_upload_picture_info", {}, "kConfirm", {}},
+        Text, _page.window());
 }
 
 void BatchUpload::start(const QStringList& files) {
@@ -202,8 +202,12 @@ void BatchUpload::showResult() {
         const auto words = [this](const QString& key) {
             return key == "kIcon_Simple_BatchUpload_Situation" ? situationText(_result) : Text(key);
         };
-        ZMessageBoxDlg::tell({ZMessageBoxDlg::Kind::Success, "kDialog_Title_Desc_Info",
-                              "kIcon_Simple_BatchUpload_Situation", {}, "kConfirm", {}},
+        ZMessageBoxDlg::tell({ZMessageBoxDlg::Kind::Success,
+                              "kDialog_Title_Desc_Info",
+                              "kIcon_Simple_BatchUpload_Situation",
+                              {},
+                              "kConfirm",
+                              {}},
                              words, _page.window());
         return;
     }

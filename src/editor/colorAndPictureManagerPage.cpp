@@ -33,7 +33,7 @@ namespace {
 
 constexpr int hintIcon = 16;
 constexpr int stripEnd = 16;
-constexpr int stripSide = 24;
+constexpr int stripSide = 8;
 constexpr int legendGap = 16;
 /// Milliseconds.
 constexpr int stripDelay = 120;
@@ -240,6 +240,7 @@ void CColorAndPictureManagerPage::showScreen(int index) {
 
 void CColorAndPictureManagerPage::showEvent(QShowEvent* event) {
     ZPage::showEvent(event);
+    makeRoomForLegend();
     rebuild();
 }
 
@@ -256,13 +257,25 @@ void CColorAndPictureManagerPage::hideEvent(QHideEvent* event) {
 
 void CColorAndPictureManagerPage::resizeEvent(QResizeEvent* event) {
     ZPage::resizeEvent(event);
+    makeRoomForLegend();
     placeLegend();
 }
 
 void CColorAndPictureManagerPage::placeLegend() {
     const QRect phone = _phone->phonePlace();
     _legend->move(phone.right() + 1 + legendGap, phone.top());
-    _legend->setVisible(!_pointedKey.empty() && _legend->geometry().right() < _phone->width());
+    _legend->setVisible(!_pointedKey.empty() && _legend->geometry().right() < _legend->parentWidget()->width());
+}
+
+void CColorAndPictureManagerPage::makeRoomForLegend() {
+    QLayout& place = *_phone->parentWidget()->layout();
+    const int wide = _phone->parentWidget()->width();
+    const int phone = _phone->phonePlace().width();
+    const int legend = ScreenLegend::cardWidth + 2 * legendGap;
+    // The phone stands in the middle, unless it must give way; a narrow window has no room for both.
+    const int missing = 2 * legend + phone - wide;
+    place.setContentsMargins(0, 0, phone + legend <= wide ? std::max(0, missing) : 0, 0);
+    place.activate();
 }
 
 void CColorAndPictureManagerPage::sayHint(const QString& text) {
@@ -272,11 +285,8 @@ void CColorAndPictureManagerPage::sayHint(const QString& text) {
 }
 
 QString CColorAndPictureManagerPage::wordsOfKey(const std::string& key) const {
-    if (const std::optional<ItemPath> path = itemPathOf(key)) {
-        const bool isOwn = hasScreen() && path->module == _module &&
-                           path->group == _views[static_cast<std::size_t>(_screen)].screen->name;
-        return colourWords({*path, isOwn, {}});
-    }
+    if (const std::optional<ItemPath> path = itemPathOf(key))
+        return colourWords({*path, true, path->module != _module, {}});
     const QString file = shown(key.substr(key.find('/') + 1));
     const QString word = Text(file + "_context");
     return word.isEmpty() ? file : word;

@@ -84,6 +84,7 @@ private:
     void composeNext();
     void showZoom();
     void placeLegend();
+    void makeRoomForLegend();
     [[nodiscard]] View& view() { return _views[static_cast<std::size_t>(_screen)]; }
     [[nodiscard]] bool hasScreen() const { return _screen >= 0; }
     [[nodiscard]] QString nameOf(const View& view) const;

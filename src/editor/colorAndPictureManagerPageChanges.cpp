@@ -146,6 +146,8 @@ void CColorAndPictureManagerPage::colourChanged(const ItemPath& path) {
         if (each.composition && colour.isValid())
             each.composition->setColour(key, colour.rgba());
     }
+    // An outline's veil would hide what the colour looks like.
+    _phone->picture().setOutlined({});
     _phone->picture().refresh();
     view().set->refreshColour(*theme(), path);
     _stripTimer.start();
@@ -226,6 +228,8 @@ void CColorAndPictureManagerPage::resetColour(CColorItem& item) {
         tellNote(this, codeKey(code));
     refreshVisibility();
     colourChanged(path);
+    // A field in which the author was typing follows too.
+    item.showColour(item.content().colour);
 }
 
 } // namespace zdt

@@ -114,7 +114,8 @@ void CColorAndPictureSetPage::refreshColour(const ThemeResource& theme, const It
 
 void CColorAndPictureSetPage::showCounts() {
     _colourTab->setCount(_colours->count());
-    _foot->setText(TextWith("kColours_count", _colours->count()) +
+    const int count = _colours->count();
+    _foot->setText((count == 1 ? Text("kColours_count_one") : TextWith("kColours_count", count)) +
                    TextWith("kList_changed_count", _colours->changedCount()));
 }
 

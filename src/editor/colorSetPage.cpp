@@ -49,7 +49,7 @@ QString tipOf(const ThemeResource& theme, const ColourRow& row) {
 QString colourWords(const ColourRow& row) {
     const QString word = KeyedText(shown(row.path.item));
     const QString name = word.isEmpty() ? shown(row.path.item) : word;
-    return row.isOfScreen ? name : name + " · " + moduleWord(row.path.module);
+    return row.isForeign ? name + " · " + moduleWord(row.path.module) : name;
 }
 
 CColorSetPage::CColorSetPage(const QString& name, CPaintManagerUI& notifications, QWidget* parent)

@@ -51,12 +51,13 @@ bool isColour(const ThemeResource& theme, const ItemPath& path) {
 }
 
 /// Adds the row of an item that the theme shows, once.
-void addRow(const ThemeResource& theme, const ItemPath& path, bool isOfScreen, std::vector<ColourRow>& rows) {
+void addRow(const ThemeResource& theme, const Screen& screen, const ItemPath& path, std::vector<ColourRow>& rows) {
     const bool isKnown = std::any_of(rows.begin(), rows.end(), [&](const ColourRow& row) { return row.path == path; });
     if (isKnown || !theme.simpleTakesPart(path.block(), path.item) || !isColour(theme, path))
         return;
     const bool hasSwitch = path.item == shadowText && theme.simpleTakesPart(path.block(), shadowSwitch);
-    rows.push_back({path, isOfScreen, hasSwitch ? shadowSwitch : ""});
+    const bool isForeign = path.module != screen.module;
+    rows.push_back({path, !isForeign && path.group == screen.name, isForeign, hasSwitch ? shadowSwitch : ""});
 }
 
 std::string shownColour(const ResNode& source) {
@@ -78,12 +79,12 @@ std::vector<ColourRow> colourRowsOf(const ThemeResource& theme, const Screen& sc
     const std::string module(screen.module);
     const std::string group(screen.name);
     for (const std::string& item : theme.simpleNames({module, group}))
-        addRow(theme, {module, group, item}, true, rows);
+        addRow(theme, screen, {module, group, item}, rows);
     const TypeMask generation = generationBit(theme.version());
     for (const ScreenLayer& layer : screen.layers) {
         const bool isColoured = layer.kind == LayerKind::fill || layer.kind == LayerKind::shape;
         if (const auto path = itemPathOf(layer.key); path && isColoured && (layer.absentFrom & generation) == 0)
-            addRow(theme, *path, false, rows);
+            addRow(theme, screen, *path, rows);
     }
     return rows;
 }

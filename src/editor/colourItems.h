@@ -34,6 +34,7 @@ struct ItemPath {
 struct ColourRow {
     ItemPath path;
     bool isOfScreen = true; ///< Whether it stands in the screen's own group; others are seen there too.
+    bool isForeign = false; ///< Whether it is another module's.
     std::string switchItem; ///< Of the same group: the setting that turns it on and off; empty for none.
 };
 
