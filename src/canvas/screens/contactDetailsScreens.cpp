@@ -189,8 +189,7 @@ Screen newContactScreen() {
     addSeparator(screen, 1824);
     screen.lines("ring", {screenMargin, 1920, 700}, {"Ring when the phone is silent", "静音时仍响铃"}, text,
                  {"For calls from this contact", "仅对此联系人的来电生效"}, softText);
-    constexpr Ink on{"commonSetting/dial/highlight color", screenColour::accent};
-    screen.switchControl("ring", {966, 1920}, true, on, white);
+    screen.switchControl("ring", {966, 1920}, true, accent, white);
     screen.homeLine(text.faded(150));
     return screen.take();
 }
