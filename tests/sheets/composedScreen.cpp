@@ -150,7 +150,8 @@ private:
         if (layer.switchKey.empty())
             return true;
         const auto [group, item] = splitKey(layer.switchKey);
-        return _theme.simpleTakesPart(group, item) && (_style.dark || !_style.marked.empty() || _theme.simpleValue(group, item) == "true");
+        return _theme.simpleTakesPart(group, item) &&
+               (_style.dark || !_style.marked.empty() || _theme.simpleValue(group, item) == "true");
     }
 
     [[nodiscard]] QRgb colourOf(const ScreenLayer& layer) const {

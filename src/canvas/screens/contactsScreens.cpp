@@ -113,6 +113,8 @@ Screen dialScreen() {
     addPadBackground(screen);
     addKeys(screen);
     constexpr int buttonMiddle = 1800;
+    for (const int x : {228, 852})
+        screen.picture("contacts/contact_dial_fun_menu.9.png", {x - 120, buttonMiddle - 63, 240, 126});
     screen.icon("pad_hide", {228, buttonMiddle}, 75, sign::dialpad, softText);
     screen.roundButton("call", {540, buttonMiddle}, 162, sign::call, {{}, screenColour::call}, white);
     screen.icon("pad_delete", {852, buttonMiddle}, 75, sign::backspace, softText);

@@ -227,7 +227,8 @@ void ScreenBuilder::roundButton(const std::string& name, Point centre, int side,
 
 void ScreenBuilder::card(const std::string& name, const Place& place, int radius, const Ink& ink) {
     panel(name + "_top", {place.x, place.y, place.width, radius}, radius, ink, corner::top);
-    fill({place.x, place.y + radius, place.width, place.height - 2 * radius}, ink);
+    if (place.height > 2 * radius)
+        fill({place.x, place.y + radius, place.width, place.height - 2 * radius}, ink);
     panel(name + "_end", {place.x, place.y + place.height - radius, place.width, radius}, radius, ink, corner::bottom);
 }
 
