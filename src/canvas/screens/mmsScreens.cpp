@@ -25,7 +25,7 @@ struct Conversation {
 constexpr Conversation conversations[] = {
     {{"Mei Lin", "林小梅"}, {"See you at six by the big clock", "六点在大钟下面见，我带伞"}, {"17:32", "17:32"}, 4, {}, {"2", "2"}},
     {{"Studio North", "北方工作室"}, {"The prints are dry, come by", "照片已经洗好，随时来取"}, {"16:05", "16:05"}, 1, {"S", "北"}, {}},
-    {{"Daniel Okoro", "陈子昂"}, {"Not sent. Tap to try again", "发送失败，点按重试"}, {"14:48", "14:48"}, 0, {}, {}},
+    {{"Daniel Okoro", "陈子安"}, {"Not sent. Tap to try again", "发送失败，点按重试"}, {"14:48", "14:48"}, 0, {}, {}},
     {{"Rail service", "铁路服务"}, {"Train 482 leaves at 07:42", "482 次列车 07:42 发车"}, {"11:20", "11:20"}, 2, {}, {"1", "1"}},
     {{"Grandad", "外公"}, {"The soup is ready, bring your coat", "汤炖好了，记得穿外套"}, {"Yesterday", "昨天"}, 5, {}, {}},
     {{"Book club (6)", "读书会（6）"}, {"Ines: Chapter nine for Thursday?", "小雨：周四读第九章吗？"}, {"Yesterday", "昨天"}, 3, {"B", "读"}, {}},
