@@ -9,6 +9,8 @@ namespace zdt::assets::palette {
 inline constexpr QRgb clear = 0x00000000;
 inline constexpr QRgb paper = 0xffffffff;
 inline constexpr QRgb paperVeil = 0xe6ffffff; ///< A card that lets the wallpaper through.
+inline constexpr QRgb glass = 0x3dffffff;     ///< A folder over the wallpaper, on which white letters stand.
+inline constexpr QRgb glassEdge = 0x52ffffff;
 inline constexpr QRgb field = 0xfff0f0f0;     ///< Bars, fields and backgrounds.
 inline constexpr QRgb fieldPressed = 0xffe4e4e4;
 inline constexpr QRgb line = 0xffcacaca;

@@ -39,7 +39,7 @@ inline constexpr auto panelTable = [] {
     using enum PanelShape;
     return std::to_array<PanelRow>({
         // The launcher.
-        {"folder_open_shadow.9.png", raised, 144, 144, 36, 36, paperVeil},
+        {"folder_open_shadow.9.png", rounded, 216, 216, 72, 36, glass, glassEdge},
         {"ic_edit_share.9.png", sign, 96, 96, 0, 0, clear, ink, Glyph::share},
         {"ic_edit_delete.9.png", sign, 96, 96, 0, 0, clear, ink, Glyph::trash},
         {"ic_mark.9.png", sign, 96, 96, 0, 0, clear, accent, Glyph::check},

@@ -60,20 +60,26 @@ QPainterPath outlineOfIcon(const ScreenLayer& layer) {
     return path.translated((place.width - layer.drawing.size) / 2.0, (place.height + layer.drawing.size) / 2.0);
 }
 
-/// A rectangle with only some of its corners rounded.
+/// A rectangle with only some of its corners rounded; a radius may be as long as a side.
 QPainterPath outlineOfPanel(const QRectF& area, double radius, unsigned corners) {
+    const double side = radius * 2;
     QPainterPath path;
-    path.addRoundedRect(area, radius, radius);
-    const QSizeF square(radius, radius);
-    const auto keepSquare = [&](unsigned bit, double x, double y) {
-        if (!(corners & bit))
-            path.addRect(QRectF(QPointF(x, y), square));
+    // A corner's arc lies in a square from there inwards; a corner with none is an arc of no size.
+    const auto turn = [&](unsigned bit, double x, double y, double start) {
+        const double size = corners & bit ? side : 0;
+        const double left = x > area.center().x() ? x - size : x;
+        const double top = y > area.center().y() ? y - size : y;
+        if (size > 0)
+            path.arcTo(left, top, size, size, start, -90);
+        else
+            path.lineTo(x, y);
     };
-    path.setFillRule(Qt::WindingFill);
-    keepSquare(corner::topLeft, area.left(), area.top());
-    keepSquare(corner::topRight, area.right() - radius, area.top());
-    keepSquare(corner::bottomLeft, area.left(), area.bottom() - radius);
-    keepSquare(corner::bottomRight, area.right() - radius, area.bottom() - radius);
+    path.moveTo(area.left(), area.top() + (corners & corner::topLeft ? radius : 0));
+    turn(corner::topLeft, area.left(), area.top(), 180);
+    turn(corner::topRight, area.right(), area.top(), 90);
+    turn(corner::bottomRight, area.right(), area.bottom(), 0);
+    turn(corner::bottomLeft, area.left(), area.bottom(), 270);
+    path.closeSubpath();
     return path;
 }
 

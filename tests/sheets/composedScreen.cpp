@@ -17,18 +17,29 @@ namespace {
 
 using Edges = std::pair<int, int>; ///< Pixels from each end that don't stretch.
 
-/// The words in an item's name that choose its colour in a dark theme, the first that is found.
+/// The words in a key that choose its colour in a dark theme, the first that is found.
 constexpr std::pair<std::string_view, QRgb> darkColours[] = {
-    {"send message text", 0xff04281c}, {"send bubble", 0xff2bd9a0}, {"highlight", 0xff2bd9a0},
-    {"warning", 0xffff6b6b},           {"text shadow", 0x80000000}, {"secondary", 0x99eaf4ff},
-    {"separator", 0x1fffffff},         {"dividing", 0x1fffffff},    {"selected background", 0xff24405f},
-    {"input box", 0xff16283f},         {"button box", 0xff1d3350},  {"accept bubble", 0xff1d3350},
-    {"box icon text", 0xffeaf4ff},     {"background", 0xff0e1b2e},  {"text", 0xffeaf4ff},
+    {"contacts/dial/background", 0xff152640},
+    {"send message text", 0xff04281c},
+    {"send bubble", 0xff2bd9a0},
+    {"highlight", 0xff2bd9a0},
+    {"warning", 0xffff6b6b},
+    {"text shadow", 0x80000000},
+    {"secondary", 0x99eaf4ff},
+    {"separator", 0x1fffffff},
+    {"dividing", 0x1fffffff},
+    {"selected background", 0xff24405f},
+    {"input box", 0xff16283f},
+    {"button box", 0xff1d3350},
+    {"accept bubble", 0xff1d3350},
+    {"box icon text", 0xffeaf4ff},
+    {"background", 0xff0e1b2e},
+    {"text", 0xffeaf4ff},
 };
 
-QRgb darkColour(std::string_view item) {
+QRgb darkColour(std::string_view key) {
     for (const auto& [words, colour] : darkColours) {
-        if (item.find(words) != std::string_view::npos)
+        if (key.find(words) != std::string_view::npos)
             return colour;
     }
     return 0xffff00ff;
@@ -111,7 +122,7 @@ public:
         , _painter(painter) {}
 
     void draw(const ScreenLayer& layer) {
-        if (layer.absentFrom & generationBit(_theme.version()))
+        if ((layer.absentFrom & generationBit(_theme.version())) || !isSwitchedOn(layer))
             return;
         const QRect place(layer.place.x, layer.place.y, layer.place.width, layer.place.height);
         switch (layer.kind) {
@@ -134,13 +145,21 @@ public:
     }
 
 private:
+    /// In dark colours everything is.
+    [[nodiscard]] bool isSwitchedOn(const ScreenLayer& layer) const {
+        if (layer.switchKey.empty())
+            return true;
+        const auto [group, item] = splitKey(layer.switchKey);
+        return _theme.simpleTakesPart(group, item) && (_style.dark || _theme.simpleValue(group, item) == "true");
+    }
+
     [[nodiscard]] QRgb colourOf(const ScreenLayer& layer) const {
         if (layer.key.empty())
             return layer.fallback;
         const auto [group, item] = splitKey(layer.key);
         if (!_theme.simpleTakesPart(group, item))
             return layer.fallback;
-        return _style.dark ? darkColour(item) : themeColour(_theme, group, item, layer.fallback);
+        return _style.dark ? darkColour(layer.key) : themeColour(_theme, group, item, layer.fallback);
     }
 
     void drawShape(const ScreenLayer& layer, const QRect& place) {
@@ -156,6 +175,8 @@ private:
 
     [[nodiscard]] QImage load(std::string_view key) const {
         auto [path, name] = splitKey(key);
+        if (path.front() == "commonSetting")
+            path.insert(path.begin(), "contacts");
         path.emplace_back("image");
         const QImage picture(QString::fromStdString(_theme.getValue(path, name)));
         return _style.dark && !picture.isNull() ? darkened(picture) : picture;

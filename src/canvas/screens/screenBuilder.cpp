@@ -184,6 +184,10 @@ void ScreenBuilder::searchHint(int top, const Words& hint, const Ink& ink) {
 void ScreenBuilder::bottomBar(std::initializer_list<Tab> tabs, std::size_t chosen, const Ink& background,
                               const Ink& chosenInk, const Ink& ink) {
     fill({0, bottomBarTop, phoneWidth, phoneHeight - bottomBarTop}, background);
+    this->tabs(tabs, chosen, chosenInk, ink);
+}
+
+void ScreenBuilder::tabs(std::initializer_list<Tab> tabs, std::size_t chosen, const Ink& chosenInk, const Ink& ink) {
     const int width = phoneWidth / static_cast<int>(tabs.size());
     int number = 0;
     for (const Tab& tab : tabs) {

@@ -17,6 +17,7 @@ namespace zdt {
 namespace screenColour {
 inline constexpr std::uint32_t paper = 0xffffffff;
 inline constexpr std::uint32_t field = 0xfff0f0f0;
+inline constexpr std::uint32_t box = 0xffe4e4e4;
 inline constexpr std::uint32_t line = 0x33242424;
 inline constexpr std::uint32_t ink = 0xff242424;
 inline constexpr std::uint32_t inkSoft = 0x99242424;
@@ -67,7 +68,7 @@ struct TextStyle {
 
 namespace textStyle {
 inline constexpr TextStyle title{66, 600};
-inline constexpr TextStyle barTitle{57, 500};
+inline constexpr TextStyle barTitle{57, 600};
 inline constexpr TextStyle listLine{48, 400};
 inline constexpr TextStyle secondLine{40, 400};
 inline constexpr TextStyle caption{34, 400};
@@ -140,7 +141,9 @@ public:
         char16_t sign;
         Words label;
     };
-    /// A bar of tabs above the area of the home gesture; the chosen one has a colour of its own.
+    /// Tabs above the area of the home gesture; the chosen one has a colour of its own.
+    void tabs(std::initializer_list<Tab> tabs, std::size_t chosen, const Ink& chosenInk, const Ink& ink);
+    /// The same on a bar.
     void bottomBar(std::initializer_list<Tab> tabs, std::size_t chosen, const Ink& background, const Ink& chosenInk,
                    const Ink& ink);
     /// The line of the home gesture.

@@ -80,7 +80,8 @@ struct ScreenLayer {
     LayerKind kind = LayerKind::fill;
     Place place;
     /// What the layer follows. A colour: module, group and item of simple mode, as "contacts/dial/highlight color". A
-    /// picture: module and file, as "contacts/dial_num_1_blk.png". A wallpaper: its file. Empty for art.
+    /// picture: module and file, as "contacts/dial_num_1_blk.png", where "commonSetting" means the pictures that all
+    /// applications share, those of the contacts. A wallpaper: its file. Empty for art.
     std::string_view key;
     /// 0xaarrggbb of a fill or shape without a key, or whose key takes no part in the theme.
     std::uint32_t fallback = 0xff242424;
