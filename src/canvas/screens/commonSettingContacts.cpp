@@ -19,16 +19,18 @@ struct Row {
     bool chosen = false;
 };
 
-void chosenGround(ScreenBuilder& b, int top) {
+void chosenGround(ScreenBuilder& b, int top, bool isFirst) {
     b.leaveOut(only9);
-    b.picture("commonSetting/list_selector_background_focused_middle_ovui.9.png", {0, top, phoneWidth, rowHeight});
+    b.picture(isFirst ? "commonSetting/list_selector_background_focused_top_ovui.9.png"
+                      : "commonSetting/list_selector_background_focused_middle_ovui.9.png",
+              {0, top, phoneWidth, rowHeight});
     b.leaveOut(0);
 }
 
 void row(ScreenBuilder& b, const std::string& name, int top, const Row& it) {
     const int middle = top + rowHeight / 2;
     if (it.chosen)
-        chosenGround(b, top);
+        chosenGround(b, top, name == "a1");
     b.portrait(name + "_face", {120, middle}, 114, it.face);
     b.lines(name, {210, middle, 600}, it.name, first, it.note, second);
     b.icon(name + "_mark", {924, middle}, 75, it.chosen ? sign::checkBox : sign::checkBoxOutlineBlank,
@@ -116,17 +118,18 @@ Screen contactListScreen() {
     b.subTitleBar({"2 selected", "已选择 2 项"}, first, {sign::moreVert}, sign::close);
     searchField(b, 282);
     int top = 426;
-    top = rows(b, "a", top, {"A", "A"},
-               {{{"Adaeze Bright", "安然"}, {"Mobile", "手机"}, 3}, {{"Ana Reyes", "敖宇"}, {"Work", "单位"}, 1, true}});
+    top =
+        rows(b, "a", top, {"A", "A"},
+             {{{"Adaeze Bright", "安然"}, {"Mobile", "手机"}, 2, true}, {{"Ana Reyes", "敖宇"}, {"Work", "单位"}, 7}});
     top = rows(b, "c", top, {"C", "C"},
-               {{{"Chen Wei", "陈薇"}, {"Mobile", "手机"}, 2, true}, {{"Clara Ruiz", "陈子安"}, {"Home", "住宅"}, 7}});
+               {{{"Chen Wei", "陈伟"}, {"Mobile", "手机"}, 0, true}, {{"Clara Ruiz", "陈佳怡"}, {"Home", "住宅"}, 1}});
     rows(b, "m", top, {"M", "L"},
-         {{{"Mei Lin", "林小梅"}, {"Mobile", "手机"}, 4},
-          {{"Milan Novak", "刘晨"}, {"Mobile", "手机"}, 0},
+         {{{"Mei Lin", "林梅"}, {"Mobile", "手机"}, 4},
+          {{"Milan Novak", "刘晨"}, {"Mobile", "手机"}, 5},
           {{"Moses Hale", "罗一鸣"}, {"Work", "单位"}, 6}});
     alphabet(b);
     tools(b);
-    b.homeLine(first);
+    b.homeLine(first.faded(150));
     return b.take();
 }
 
@@ -136,7 +139,7 @@ namespace {
 
 void head(ScreenBuilder& b) {
     b.portrait("face", {168, 396}, 216, 4);
-    b.text("name", {318, 363, 660}, {"Mei Lin", "林小梅"}, {63, 600}, first);
+    b.text("name", {318, 363, 660}, {"Mei Lin", "林梅"}, {63, 600}, first);
     b.text("job", {318, 444, 660}, {"Printmaker, Studio North", "版画师，北方工作室"}, {42}, second);
     constexpr Words actions[] = {{"Call", "呼叫"}, {"Message", "信息"}, {"Video", "视频"}};
     int left = screenMargin;
@@ -164,7 +167,11 @@ void subTabs(ScreenBuilder& b) {
                {48, chosen ? 600 : 400, TextAlign::centre}, chosen ? accent : second);
         left += width;
     }
+    b.leaveOut(before9);
+    b.picture("commonSetting/line_split_bottom_ovui.9.png", {0, middle + 48, phoneWidth, 12});
+    b.leaveOut(only9);
     b.divider(middle + 57, line, 0, phoneWidth);
+    b.leaveOut(0);
     b.panel("tab_line", {width / 2 - 72, middle + 51, 144, 9}, 4, accent);
 }
 
@@ -229,12 +236,12 @@ Screen contactDetailsScreen() {
     details(b, 816);
     sharedPictures(b, 1470);
     noteField(b, {screenMargin, 1770, phoneWidth - 2 * screenMargin, 108});
-    b.bottomBar({{sign::dialpad, {"Dialler", "拨号"}},
+    b.bottomBar({{sign::call, {"Phone", "电话"}},
                  {sign::person, {"Contacts", "联系人"}},
                  {sign::starBorder, {"Favourites", "收藏"}}},
                 1, page, accent, second);
     b.divider(bottomBarTop, line, 0, phoneWidth);
-    b.homeLine(first);
+    b.homeLine(first.faded(150));
     return b.take();
 }
 

@@ -93,7 +93,7 @@ Screen dialScreen() {
     ScreenBuilder b("commonSetting", "dial");
     ground(b);
     b.portrait("face", {540, 336}, 288, 4);
-    b.text("name", {140, 570, 800}, {"Mei Lin", "林小梅"}, {72, 600, TextAlign::centre}, first);
+    b.text("name", {140, 570, 800}, {"Mei Lin", "林梅"}, {72, 600, TextAlign::centre}, first);
     b.text("number", {140, 651, 800}, {"Mobile, 0571 8800 2210", "手机 0571 8800 2210"}, {42, 400, TextAlign::centre},
            second);
     b.text("length", {140, 726, 800}, {"02:48", "02:48"}, {48, 500, TextAlign::centre}, accent);
@@ -104,7 +104,7 @@ Screen dialScreen() {
     noteField(b);
     toast(b);
     b.roundButton("end", {540, 1881}, 192, sign::callEnd, {{}, screenColour::danger}, paper);
-    b.homeLine(first);
+    b.homeLine(first.faded(150));
     return b.take();
 }
 
@@ -123,7 +123,8 @@ void answering(ScreenBuilder& b, int top) {
     setting(b, "flip", middle, {"Flip to silence", "翻转静音"});
     b.switchControl("flip", {966, middle}, true, accent, paper);
     b.divider(top + settingPitch, line);
-    setting(b, "pocket", middle + settingPitch, {"Louder in a pocket", "口袋模式"}, {"While the phone is covered", "被遮挡时加大铃声"});
+    setting(b, "pocket", middle + settingPitch, {"Louder in a pocket", "口袋模式"},
+            {"While the phone is covered", "被遮挡时加大铃声"});
     b.switchControl("pocket", {966, middle + settingPitch}, false, box, paper);
     b.divider(top + 2 * settingPitch, line);
     setting(b, "reply", middle + 2 * settingPitch, {"Reply by message", "短信回复"});
@@ -208,7 +209,7 @@ Screen dialingSettingsScreen() {
     section(b, "recording", {0, 852, phoneWidth, 90}, {"Recording", "录音"});
     recording(b, 948);
     storageBox(b, {36, 1626, 1008, 432});
-    b.homeLine(first);
+    b.homeLine(first.faded(150));
     return b.take();
 }
 

@@ -82,7 +82,9 @@ void notices(ScreenBuilder& b) {
     constexpr int pitch = noticeHeight + 24;
     constexpr Point face{120, top + noticeHeight / 2};
     noticeTexts(b, "message", top,
-                {{"Messages", "信息"}, {"now", "刚刚"}, {"Mei Lin", "林小梅"},
+                {{"Messages", "信息"},
+                 {"now", "刚刚"},
+                 {"Mei Lin", "林梅"},
                  {"See you at six by the big clock", "六点在大钟下面见，我带伞"}});
     b.leaveOut(before9);
     b.roundButton("message_face", face, 108, sign::chatBubble, accent, panelBack);
@@ -90,7 +92,9 @@ void notices(ScreenBuilder& b) {
     b.picture("mms/ic_message_noti_zendro.png", around(face, 108));
     b.leaveOut(0);
     noticeTexts(b, "event", top + pitch,
-                {{"Calendar", "日历"}, {"08:00", "08:00"}, {"Print fair, hall 4", "版画展，4 号厅"},
+                {{"Calendar", "日历"},
+                 {"08:00", "08:00"},
+                 {"Print fair, hall 4", "版画展，4 号厅"},
                  {"10:00 to 12:30, bring the badge", "10:00–12:30，记得带证件"}});
     b.roundButton("event_face", {face.x, face.y + pitch}, 108, sign::event, accent, panelBack);
     b.text("notices_manage", {240, 1644, 600}, {"Manage notifications", "管理通知"}, {42, 500, TextAlign::centre},
@@ -128,7 +132,7 @@ Screen notificationScreen() {
     brightness(b, 942);
     notices(b);
     volumePopup(b);
-    b.homeLine(plain);
+    b.homeLine(plain.faded(150));
     return b.take();
 }
 
@@ -153,8 +157,8 @@ void liftedTile(ScreenBuilder& b, Point centre) {
         b.panel("lifted_shade" + std::to_string(grown), around({centre.x, centre.y + 9}, 168 + grown),
                 (168 + grown) / 2, {{}, 0xff000000, 12});
     b.roundButton("lifted", centre, 174, sign::flashlightOn, accent, panelBack);
-    b.text("lifted_label", {centre.x - 114, centre.y + 129, 228}, {"Torch", "手电筒"},
-           {34, 600, TextAlign::centre}, accent);
+    b.text("lifted_label", {centre.x - 114, centre.y + 129, 228}, {"Torch", "手电筒"}, {34, 600, TextAlign::centre},
+           accent);
 }
 
 Screen switchSortScreen() {
@@ -180,8 +184,8 @@ Screen switchSortScreen() {
     badges(b, "used_badge", top, pitch, 10, sign::remove, plain);
     b.ring("gap", around({tileLeft + 2 * tilePitch, top + 2 * pitch}, 150), 75, 4, accent.faded(150));
     b.fill({0, 1128, phoneWidth, 114}, separator);
-    b.text("band", {screenMargin, 1185, 960}, {"Not shown: drag here what you don't need", "未显示：将不需要的开关拖到这里"},
-           {40}, plain);
+    b.text("band", {screenMargin, 1185, 960},
+           {"Not shown: drag here what you don't need", "未显示：将不需要的开关拖到这里"}, {40}, plain);
     tiles(b, "rest", restTop, pitch,
           {{sign::wifiTethering, {"Hotspot", "个人热点"}},
            {sign::nfc, {"Touch to pay", "近场支付"}},
@@ -195,7 +199,7 @@ Screen switchSortScreen() {
            {sign::translate, {"Translate", "翻译"}}});
     badges(b, "rest_badge", restTop, pitch, 10, sign::add, accent);
     liftedTile(b, {tileLeft + 2 * tilePitch + 78, top + 2 * pitch + 27});
-    b.homeLine(plain);
+    b.homeLine(plain.faded(150));
     return b.take();
 }
 

@@ -16,7 +16,7 @@ void users(ScreenBuilder& b) {
     constexpr int middle = 390;
     b.titleBar({"Users", "用户"}, plain, {sign::settings});
     b.portrait("owner_face", {171, middle}, 156, 4);
-    user(b, "owner", 171, {"Mei Lin", "林小梅"}, true);
+    user(b, "owner", 171, {"Mei Lin", "林梅"}, true);
     b.portrait("child_face", {417, middle}, 156, 1);
     user(b, "child", 417, {"Ines", "小雨"}, false);
     b.roundButton("guest_face", {663, middle}, 156, sign::person, discOff, plain);
@@ -54,7 +54,8 @@ void galleryTask(ScreenBuilder& b, const std::string& name, const Place& card) {
     constexpr int side = 195;
     for (int number = 0; number < 4; ++number)
         b.photo(name + "_photo" + std::to_string(number + 1),
-                {card.x + 30 + number % 2 * (side + 12), card.y + 42 + number / 2 * (side + 12), side, side}, 18, number);
+                {card.x + 30 + number % 2 * (side + 12), card.y + 42 + number / 2 * (side + 12), side, side}, 18,
+                number);
 }
 
 void musicTask(ScreenBuilder& b, const std::string& name, const Place& card) {
@@ -127,7 +128,7 @@ Screen usersScreen() {
         task.draw(b, name, card);
     }
     closeAll(b);
-    b.homeLine(plain);
+    b.homeLine(plain.faded(150));
     return b.take();
 }
 
