@@ -14,8 +14,8 @@ constexpr double lineWidth = 6;
 
 void drawSign(QPainter& painter, std::string_view name, QPointF middle, QRgb colour) {
     constexpr std::string_view digitPrefix = "dial_num_";
-    constexpr double digitHeight = 132;
-    constexpr double signSide = 76;
+    constexpr double digitHeight = 106;
+    constexpr double signSide = 62;
     const QRectF square(middle.x() - signSide / 2, middle.y() - signSide / 2, signSide, signSide);
     if (name.starts_with("xing")) {
         drawAsterisk(painter, square, colour, lineWidth);

@@ -145,15 +145,18 @@ public:
     }
 
 private:
-    /// In dark colours everything is.
+    /// In dark colours, and where something is marked, everything is.
     [[nodiscard]] bool isSwitchedOn(const ScreenLayer& layer) const {
         if (layer.switchKey.empty())
             return true;
         const auto [group, item] = splitKey(layer.switchKey);
-        return _theme.simpleTakesPart(group, item) && (_style.dark || _theme.simpleValue(group, item) == "true");
+        return _theme.simpleTakesPart(group, item) &&
+               (_style.dark || !_style.marked.empty() || _theme.simpleValue(group, item) == "true");
     }
 
     [[nodiscard]] QRgb colourOf(const ScreenLayer& layer) const {
+        if (!_style.marked.empty())
+            return layer.key == _style.marked || layer.switchKey == _style.marked ? 0xffff0000 : 0xff000000;
         if (layer.key.empty())
             return layer.fallback;
         const auto [group, item] = splitKey(layer.key);

@@ -12,9 +12,9 @@ void ground(ScreenBuilder& b) {
 
 void shade(ScreenBuilder& b, const std::string& name, const Place& place, int radius) {
     for (const int grown : {36, 24, 12})
-        b.panel(name + "_shade" + std::to_string(grown),
-                {place.x - grown / 2, place.y + 9 - grown / 2, place.width + grown, place.height + grown},
-                radius + grown / 2, {{}, 0xff000000, 9});
+        b.ring(name + "_shade" + std::to_string(grown),
+               {place.x - grown / 2, place.y + 9 - grown / 2, place.width + grown, place.height + grown},
+               radius + grown / 2, 18 + grown / 2, {{}, 0xff000000, 9});
 }
 
 void slider(ScreenBuilder& b, const std::string& name, const Place& track, int used) {
@@ -182,7 +182,7 @@ void storageBox(ScreenBuilder& b, const Place& place) {
     b.picture("commonSetting/popup_full_bright_ovui.9.png", place);
     b.leaveOut(since8);
     shade(b, "storage", place, 48);
-    b.panel("storage_box", place, 48, box);
+    b.card("storage_box", place, 48, box);
     b.leaveOut(0);
     const int left = place.x + 48;
     b.text("storage_title", {left, place.y + 72, 800}, {"Where recordings go", "录音保存位置"}, {51, 500}, first);

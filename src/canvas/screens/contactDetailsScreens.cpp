@@ -124,6 +124,15 @@ void addField(ScreenBuilder& screen, int number, int top, const Field& field) {
     screen.text(name + "_value", {fieldLeft, middle, 600}, field.value, textStyle::listLine, text);
 }
 
+void addExpander(ScreenBuilder& screen, Point centre) {
+    constexpr int side = 72;
+    screen.leaveOut(typeMask::generation9);
+    screen.picture("contacts/contact_expander_close_ovui.9.png", around(centre, side));
+    screen.leaveOut(typeMask::generation5 | typeMask::generation8);
+    screen.icon("number_kind_more", centre, side, sign::expandMore, softText);
+    screen.leaveOut(0);
+}
+
 void addFields(ScreenBuilder& screen) {
     constexpr int pitch = 186;
     int top = 720;
@@ -135,7 +144,7 @@ void addFields(ScreenBuilder& screen) {
             screen.fill({fieldLeft + 348, middle - 33, 6, 66}, accent);
             screen.text("number_kind", {fieldLeft + fieldWidth - 240, middle, 174}, {"Mobile", "手机"},
                         textStyle::aligned(textStyle::secondLine, TextAlign::right), softText);
-            screen.icon("number_kind_more", {fieldLeft + fieldWidth - 33, middle}, 60, sign::expandMore, softText);
+            addExpander(screen, {fieldLeft + fieldWidth - 36, middle});
         }
         top += pitch;
     }
@@ -153,7 +162,7 @@ void addSeparator(ScreenBuilder& screen, int y, int left, int right) {
 
 void addBox(ScreenBuilder& screen, const std::string& name, const Place& place, int radius) {
     screen.leaveOut(typeMask::generation5);
-    screen.panel(name, place, radius, {"commonSetting/dialing settings/button box background", screenColour::box});
+    screen.card(name, place, radius, {"commonSetting/dialing settings/button box background", screenColour::box});
     screen.leaveOut(typeMask::generation8 | typeMask::generation9);
     screen.panel(name + "_faint", place, radius, text.faded(22));
     screen.leaveOut(0);
@@ -174,6 +183,9 @@ Screen contactDetailsScreen() {
 Screen newContactScreen() {
     ScreenBuilder screen("contacts", "new contact");
     screen.fill({0, 0, phoneWidth, phoneHeight}, background);
+    screen.leaveOut(typeMask::generation9);
+    screen.picture("contacts/header_background4.9.png", {0, 0, phoneWidth, titleBarBottom});
+    screen.leaveOut(0);
     screen.statusBar(text);
     screen.subTitleBar({"New contact", "新建联系人"}, text, {sign::check}, sign::close);
     addBox(screen, "photo_back", around({540, 429}, 234), 117);
@@ -189,8 +201,7 @@ Screen newContactScreen() {
     addSeparator(screen, 1824);
     screen.lines("ring", {screenMargin, 1920, 700}, {"Ring when the phone is silent", "静音时仍响铃"}, text,
                  {"For calls from this contact", "仅对此联系人的来电生效"}, softText);
-    constexpr Ink on{"commonSetting/dial/highlight color", screenColour::accent};
-    screen.switchControl("ring", {966, 1920}, true, on, white);
+    screen.switchControl("ring", {966, 1920}, true, accent, white);
     screen.homeLine(text.faded(150));
     return screen.take();
 }

@@ -67,11 +67,11 @@ constexpr std::array<Key, 12> keys{{
 
 constexpr int padTop = 984;
 
-/// The theme's picture where its generation has one, else a plain area.
+/// The theme's picture where its generation has one, else a sheet. The bar with the tabs stands below.
 void addPadBackground(ScreenBuilder& screen) {
-    constexpr Place area{0, padTop, phoneWidth, phoneHeight - padTop};
+    constexpr int height = bottomBarTop - padTop;
     screen.leaveOut(typeMask::generation9);
-    screen.picture("contacts/contact_dialpad.9.png", area);
+    screen.picture("contacts/contact_dialpad.9.png", {0, padTop, phoneWidth, height});
     screen.leaveOut(typeMask::generation5 | typeMask::generation8);
     constexpr int radius = 60;
     constexpr Ink shade{{}, 0xff000000, 9};
@@ -79,7 +79,7 @@ void addPadBackground(ScreenBuilder& screen) {
         screen.panel("pad_shade" + std::to_string(rise), {0, padTop - rise, phoneWidth, radius}, radius, shade,
                      corner::top);
     screen.panel("pad_top", {0, padTop, phoneWidth, radius}, radius, pad, corner::top);
-    screen.fill({0, padTop + radius, phoneWidth, area.height - radius}, pad);
+    screen.fill({0, padTop + radius, phoneWidth, height - radius}, pad);
     screen.leaveOut(0);
 }
 
@@ -113,13 +113,15 @@ Screen dialScreen() {
     addPadBackground(screen);
     addKeys(screen);
     constexpr int buttonMiddle = 1800;
+    for (const int x : {228, 852})
+        screen.picture("contacts/contact_dial_fun_menu.9.png", {x - 120, buttonMiddle - 63, 240, 126});
     screen.icon("pad_hide", {228, buttonMiddle}, 75, sign::dialpad, softText);
     screen.roundButton("call", {540, buttonMiddle}, 162, sign::call, {{}, screenColour::call}, white);
     screen.icon("pad_delete", {852, buttonMiddle}, 75, sign::backspace, softText);
-    screen.tabs({{sign::call, {"Phone", "电话"}},
-                 {sign::personOutline, {"Contacts", "联系人"}},
-                 {sign::starBorder, {"Favourites", "收藏"}}},
-                0, accent, softText);
+    screen.bottomBar({{sign::call, {"Phone", "电话"}},
+                      {sign::personOutline, {"Contacts", "联系人"}},
+                      {sign::starBorder, {"Favourites", "收藏"}}},
+                     0, pad, accent, softText);
     screen.homeLine(text.faded(150));
     return screen.take();
 }

@@ -83,7 +83,7 @@ void addHomeApps(ScreenBuilder& screen, int top) {
 void addDock(ScreenBuilder& screen) {
     constexpr int middle = 1893;
     constexpr std::array<int, 4> icons{0, 10, 1, 8};
-    screen.panel("dock", {36, middle - 135, 1008, 270}, 84, {{}, screenColour::paper, 56});
+    screen.card("dock", {36, middle - 135, 1008, 270}, 84, {{}, 0x38ffffff});
     int x = 156;
     int number = 1;
     for (const int icon : icons) {
@@ -204,7 +204,7 @@ Screen simpleScreen() {
         const int left = 60 + number % 2 * (width + gap);
         const int top = 510 + number / 2 * (height + gap);
         const std::string name = "app" + std::to_string(++number);
-        screen.panel(name + "_tile", {left, top, width, height}, 60, tile);
+        screen.card(name + "_tile", {left, top, width, height}, 60, tile);
         screen.appIcon(name + "_icon", {left + width / 2, top + 177}, 228, app.icon);
         screen.text(name + "_name", {left + 24, top + 360, width - 48}, app.name, {60, 500, TextAlign::centre},
                     simpleText);

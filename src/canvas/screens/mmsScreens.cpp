@@ -207,10 +207,10 @@ void bubbleMenu(ScreenBuilder& b, const Place& place) {
               {place.x - 18, place.y - 18, place.width + 36, place.height + 36});
     b.leaveOut(only9);
     for (const int grown : {36, 24, 12})
-        b.panel("menu_shade" + std::to_string(grown),
-                {place.x - grown / 2, place.y + 9 - grown / 2, place.width + grown, place.height + grown},
-                36 + grown / 2, {{}, 0xff000000, 9});
-    b.panel("menu", place, 36, box);
+        b.ring("menu_shade" + std::to_string(grown),
+               {place.x - grown / 2, place.y + 9 - grown / 2, place.width + grown, place.height + grown},
+               36 + grown / 2, 18 + grown / 2, {{}, 0xff000000, 9});
+    b.card("menu", place, 36, box);
     b.leaveOut(0);
     constexpr int pitch = 132;
     int middle = place.y + 18 + pitch / 2;

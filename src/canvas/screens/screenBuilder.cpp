@@ -226,10 +226,10 @@ void ScreenBuilder::roundButton(const std::string& name, Point centre, int side,
 }
 
 void ScreenBuilder::card(const std::string& name, const Place& place, int radius, const Ink& ink) {
-    const int cap = 2 * radius;
-    panel(name + "_top", {place.x, place.y, place.width, cap}, radius, ink, corner::top);
-    fill({place.x, place.y + cap, place.width, place.height - 2 * cap}, ink);
-    panel(name + "_end", {place.x, place.y + place.height - cap, place.width, cap}, radius, ink, corner::bottom);
+    panel(name + "_top", {place.x, place.y, place.width, radius}, radius, ink, corner::top);
+    if (place.height > 2 * radius)
+        fill({place.x, place.y + radius, place.width, place.height - 2 * radius}, ink);
+    panel(name + "_end", {place.x, place.y + place.height - radius, place.width, radius}, radius, ink, corner::bottom);
 }
 
 } // namespace zdt

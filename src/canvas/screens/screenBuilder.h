@@ -154,7 +154,7 @@ public:
     /// A disc with a sign in its middle.
     void roundButton(const std::string& name, Point centre, int side, char16_t sign, const Ink& background,
                      const Ink& signInk);
-    /// A rounded panel of any height: two caps that are shapes and a fill between them.
+    /// A rounded panel of any height: two caps that are shapes and a fill between them, so that the ink can't be faded.
     void card(const std::string& name, const Place& place, int radius, const Ink& ink);
 
 private:

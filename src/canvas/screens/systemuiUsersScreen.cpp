@@ -124,7 +124,7 @@ Screen usersScreen() {
         const Place card{60 + number % 2 * (width + 36), 738 + number / 2 * (height + 126), width, height};
         const std::string name = "task" + std::to_string(++number);
         taskHead(b, name, card, task.name, task.icon, task.kept);
-        b.panel(name + "_card", card, 36, box);
+        b.card(name + "_card", card, 36, box);
         task.draw(b, name, card);
     }
     closeAll(b);
