@@ -23,17 +23,41 @@ struct Conversation {
 };
 
 constexpr Conversation conversations[] = {
-    {{"Mei Lin", "林小梅"}, {"See you at six by the big clock", "六点在大钟下面见，我带伞"}, {"17:32", "17:32"}, 4, {}, {"2", "2"}},
-    {{"Studio North", "北方工作室"}, {"The prints are dry, come by", "照片已经洗好，随时来取"}, {"16:05", "16:05"}, 1, {"S", "北"}, {}},
-    {{"Daniel Okoro", "陈子昂"}, {"Not sent. Tap to try again", "发送失败，点按重试"}, {"14:48", "14:48"}, 0, {}, {}},
-    {{"Rail service", "铁路服务"}, {"Train 482 leaves at 07:42", "482 次列车 07:42 发车"}, {"11:20", "11:20"}, 2, {}, {"1", "1"}},
-    {{"Grandad", "外公"}, {"The soup is ready, bring your coat", "汤炖好了，记得穿外套"}, {"Yesterday", "昨天"}, 5, {}, {}},
-    {{"Book club (6)", "读书会（6）"}, {"Ines: Chapter nine for Thursday?", "小雨：周四读第九章吗？"}, {"Yesterday", "昨天"}, 3, {"B", "读"}, {}},
-    {{"Parcel desk", "快递驿站"}, {"Ready to collect, code 4-1827", "包裹已到，取件码 4-1827"}, {"Monday", "周一"}, 0, {}, {}},
+    {{"Mei Lin", "林梅"},
+     {"See you at six by the big clock", "六点在大钟下面见，我带伞"},
+     {"17:32", "17:32"},
+     4,
+     {},
+     {"2", "2"}},
+    {{"Studio North", "北方工作室"},
+     {"The prints are dry, come by", "照片已经洗好，随时来取"},
+     {"16:05", "16:05"},
+     1,
+     {"S", "北"},
+     {}},
+    {{"Daniel Okoro", "陈志远"}, {"Not sent. Tap to try again", "发送失败，点按重试"}, {"14:48", "14:48"}, 0, {}, {}},
+    {{"Rail service", "铁路服务"},
+     {"Train 482 leaves at 07:42", "482 次列车 07:42 发车"},
+     {"11:20", "11:20"},
+     2,
+     {},
+     {"1", "1"}},
+    {{"Grandad", "外公"},
+     {"The soup is ready, bring your coat", "汤炖好了，记得穿外套"},
+     {"Yesterday", "昨天"},
+     5,
+     {},
+     {}},
+    {{"Parcel desk", "快递驿站"},
+     {"Ready to collect, code 4-1827", "包裹已到，取件码 4-1827"},
+     {"Monday", "周一"},
+     0,
+     {},
+     {}},
 };
 constexpr int failedConversation = 2;
 constexpr int railConversation = 3;
-constexpr int parcelConversation = 6;
+constexpr int parcelConversation = 5;
 
 void conversationFace(ScreenBuilder& b, const std::string& name, Point centre, int number) {
     constexpr int side = 120;
@@ -68,6 +92,21 @@ void conversation(ScreenBuilder& b, int number, int middle) {
     b.text(name + "_count", {966, middle + 36, 54}, it.unread, {34, 600, TextAlign::centre}, page);
 }
 
+/// What of the list is shown: the chosen one stands on a ground of its own.
+void filters(ScreenBuilder& b, int top) {
+    constexpr Words words[] = {{"All", "全部"}, {"Unread", "未读"}, {"Services", "服务号"}, {"Strangers", "陌生人"}};
+    constexpr int width = 246;
+    constexpr int height = 84;
+    int left = screenMargin - 12;
+    b.panel("filter_chosen", {left, top, width, height}, height / 2, chosenTab);
+    for (const Words& each : words) {
+        const bool chosen = &each == words;
+        b.text("filter" + std::to_string(left), {left + 12, top + height / 2, width - 24}, each,
+               {40, chosen ? 500 : 400, TextAlign::centre}, chosen ? accent : second);
+        left += width;
+    }
+}
+
 /// The button floats in the page's colour: a shade and an edge set it off.
 void newButton(ScreenBuilder& b, Point centre) {
     constexpr int side = 168;
@@ -84,7 +123,8 @@ Screen messageListScreen() {
     b.statusBar(first);
     b.titleBar({"Messages", "信息"}, first, {sign::moreVert});
     b.searchBox(282, {"Search messages", "搜索信息"}, input, second);
-    constexpr int top = 432;
+    filters(b, 432);
+    constexpr int top = 540;
     constexpr int pitch = 195;
     for (int number = 0; number < static_cast<int>(std::size(conversations)); ++number) {
         conversation(b, number, top + number * pitch + pitch / 2);
@@ -97,7 +137,7 @@ Screen messageListScreen() {
                  {sign::starBorder, {"Favourites", "收藏"}}},
                 0, page, accent, second);
     b.divider(bottomBarTop, line, 0, phoneWidth);
-    b.homeLine(first);
+    b.homeLine(first.faded(150));
     return b.take();
 }
 
@@ -167,10 +207,10 @@ void bubbleMenu(ScreenBuilder& b, const Place& place) {
               {place.x - 18, place.y - 18, place.width + 36, place.height + 36});
     b.leaveOut(only9);
     for (const int grown : {36, 24, 12})
-        b.panel("menu_shade" + std::to_string(grown),
-                {place.x - grown / 2, place.y + 9 - grown / 2, place.width + grown, place.height + grown},
-                36 + grown / 2, {{}, 0xff000000, 9});
-    b.panel("menu", place, 36, box);
+        b.ring("menu_shade" + std::to_string(grown),
+               {place.x - grown / 2, place.y + 9 - grown / 2, place.width + grown, place.height + grown},
+               36 + grown / 2, 18 + grown / 2, {{}, 0xff000000, 9});
+    b.card("menu", place, 36, box);
     b.leaveOut(0);
     constexpr int pitch = 132;
     int middle = place.y + 18 + pitch / 2;
@@ -199,17 +239,18 @@ Screen settingsScreen() {
                  {{"Vibrate", "振动"}, {}, on},
                  {{"Show on lock screen", "锁屏显示"}, {"Sender only", "仅显示发件人"}, on}});
     section(b, "looks", 876, {"Appearance", "外观"});
-    settingRows(b, "look", 966, {{{"Bubble style", "气泡样式"}, {"Rounded", "圆角"}, none},
-                                 {{"Text size", "字体大小"}, {"Medium", "中"}, none},
-                                 {{"Link cards", "链接卡片"}, {}, none},
-                                 {{"Swipe back", "滑动返回"}, {}, none}});
+    settingRows(b, "look", 966,
+                {{{"Bubble style", "气泡样式"}, {"Rounded", "圆角"}, none},
+                 {{"Text size", "字体大小"}, {"Medium", "中"}, none},
+                 {{"Link cards", "链接卡片"}, {}, none},
+                 {{"Swipe back", "滑动返回"}, {}, none}});
     section(b, "delivery", 1632, {"Sending", "发送"});
     settingRows(b, "delivery", 1722,
                 {{{"Delivery reports", "送达报告"}, {"Ask for each message", "逐条询问结果"}, off},
                  {{"Read receipts", "已读回执"}, {}, on}});
     b.icon("look1_open", {978, 1047}, 60, sign::arrowDropDown, second);
     bubbleMenu(b, {516, 1110, 516, 564});
-    b.homeLine(first);
+    b.homeLine(first.faded(150));
     return b.take();
 }
 

@@ -1,5 +1,6 @@
-#include "canvas/screens/mmsInks.h"
 #include "canvas/screens/mmsThreadScreens.h"
+
+#include "canvas/screens/mmsInks.h"
 #include "canvas/screens/screenBuilder.h"
 
 namespace zdt::mms {
@@ -71,7 +72,8 @@ void writtenMessages(ScreenBuilder& b) {
     receivedLine(b, "asked_text", {216, 432, 588}, {"Are you on the train yet?", "你上火车了吗？"}, messageText);
     bubble(b, "told", {366, 522, 654, 186}, true);
     b.text("told_text1", {414, 582, 564}, {"Just left. All the fields are", "刚刚出发，"}, messageText, sentText);
-    b.text("told_text2", {414, 648, 564}, {"yellow now, look at this", "路边的田野全黄了，你看"}, messageText, sentText);
+    b.text("told_text2", {414, 648, 564}, {"yellow now, look at this", "路边的田野全黄了，你看"}, messageText,
+           sentText);
     b.photo("view", {540, 732, 480, 330}, 36, 1);
     b.text("view_state", {720, 1098, 300}, {"Delivered 17:24", "17:24 已送达"}, noteRight, second);
     b.portrait("face2", {99, 1209}, 96, 4);
@@ -151,17 +153,16 @@ Screen conversationScreen() {
     ScreenBuilder b("mms", "MMS");
     threadPage(b);
     b.statusBar(first);
-    b.subTitleBar({"Mei Lin", "林小梅"}, first, {sign::call, sign::moreVert});
+    b.subTitleBar({"Mei Lin", "林梅"}, first, {sign::call, sign::moreVert});
     writtenMessages(b);
     inputBar(b);
     b.fill({0, 1452, phoneWidth, phoneHeight - 1452}, page);
     b.divider(1452, line, 0, phoneWidth);
     attachmentTabs(b, 1464);
     gallery(b, 1632);
-    b.homeLine(first);
+    b.homeLine(first.faded(150));
     return b.take();
 }
-
 
 namespace {
 
@@ -287,7 +288,7 @@ Screen smartMessageScreen() {
     answers(b);
     serviceBar(b);
     openMenu(b);
-    b.homeLine(first);
+    b.homeLine(first.faded(150));
     return b.take();
 }
 } // namespace zdt::mms

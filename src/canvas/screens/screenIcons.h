@@ -29,6 +29,7 @@ inline constexpr char16_t brightnessLow = 0xe1ad;
 inline constexpr char16_t business = 0xe0af;
 inline constexpr char16_t cake = 0xe7e9;
 inline constexpr char16_t call = 0xe0b0;
+inline constexpr char16_t callEnd = 0xe0b1;
 inline constexpr char16_t callMade = 0xe0b2;
 inline constexpr char16_t callMissed = 0xe0b4;
 inline constexpr char16_t callReceived = 0xe0b5;

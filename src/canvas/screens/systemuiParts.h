@@ -6,13 +6,13 @@
 namespace zdt::systemui {
 
 inline constexpr Ink panelBack{"systemui/drop down notification/background color", screenColour::paper};
-inline constexpr Ink sign1{"systemui/drop down notification/icon text color", 0xff808080};
+inline constexpr Ink plain{"systemui/drop down notification/icon text color", 0xff808080};
 inline constexpr Ink accent{"systemui/drop down notification/highlight color", screenColour::accent};
 inline constexpr Ink separator{"systemui/switch sort/separator color", 0x24808080};
-inline constexpr Ink box{"commonSetting/dialing settings/button box background", 0x48808080, 130};
+inline constexpr Ink box{"commonSetting/dialing settings/button box background", 0x48808080, 165};
 inline constexpr Ink line{"commonSetting/contact list/dividing line", screenColour::line};
-inline constexpr Ink soft = sign1.faded(215);
-inline constexpr Ink discOff = sign1.faded(46);
+inline constexpr Ink soft = plain.faded(215);
+inline constexpr Ink discOff = plain.faded(46);
 
 inline constexpr TypeMask before9 = typeMask::generation9;
 inline constexpr TypeMask only9 = typeMask::generation5 | typeMask::generation8;
