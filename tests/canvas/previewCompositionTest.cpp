@@ -57,7 +57,7 @@ TEST_F(PreviewCompositionTest, EqualsAFullCompositionAfterAnyEdits) {
     std::uint64_t serial = 0;
     for (int step = 0; step < 70; ++step) {
         const char* key = keys[below(keys.size())];
-        switch (below(6)) {
+        switch (below(7)) {
         case 0:
             composition.setVisible(below(9), below(2) == 0);
             break;
@@ -67,6 +67,15 @@ TEST_F(PreviewCompositionTest, EqualsAFullCompositionAfterAnyEdits) {
         case 2:
             composition.setPreferAlternate(key, below(2) == 0);
             break;
+        case 6: {
+            // As a page that reads everything anew: most is the same.
+            PreviewDescription described{composition.parts(), composition.backgroundFile()};
+            std::swap(described.parts[below(8)].colorNormal, described.parts[below(8)].colorNormal);
+            described.parts[below(8)].y += 3;
+            described.background = files[below(4)];
+            composition.setDescription(described);
+            break;
+        }
         case 3:
             composition.setOverlays({{static_cast<int>(below(900)), 0, 300, 500, 0x600000ff, files[0], below(2) == 0,
                                       below(2) == 0, "over"}});
@@ -169,6 +178,9 @@ TEST_F(PreviewCompositionTest, ReplacedFileIsReadAgain) {
     composition.setPicture("a", path);
     EXPECT_EQ(composition.frame().pixelColor(30, 30), QColor(Qt::green));
     EXPECT_EQ(composition.frame().pixelColor(80, 50), QColor(Qt::white));
+    ASSERT_EQ(saved(folder, "a.png", disc({70, 70}, Qt::blue)), path);
+    composition.setDescription({composition.parts(), ""});
+    EXPECT_EQ(composition.frame().pixelColor(30, 30), QColor(Qt::blue));
 }
 
 TEST(OverlayOutline, StaysInsideTheFrame) {
