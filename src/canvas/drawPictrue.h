@@ -77,6 +77,7 @@ private:
     void paintRing(QPainter& painter) const;
     void point(std::optional<std::size_t> part);
     void walkTo(int key);
+    void stopWalking();
     void pickPart(std::optional<std::size_t> part);
     [[nodiscard]] QRegion follow();
     [[nodiscard]] bool showsRing() const;

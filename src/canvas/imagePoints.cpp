@@ -22,6 +22,11 @@ ImagePoints::ImagePoints(SkinRoots roots)
     : _roots(std::move(roots))
     , _file(_roots) {}
 
+std::string ImagePoints::fileOf(const std::string& picture) const {
+    std::string file = resolveSkinPath(picture, _roots);
+    return file.empty() ? picture : file;
+}
+
 std::string ImagePoints::storedName(const std::string& picture) const {
     const std::size_t at = picture.rfind("/skin/");
     const std::string name = at == std::string::npos ? std::string() : picture.substr(at + 1);
@@ -46,8 +51,7 @@ std::shared_ptr<const InkMask> ImagePoints::read(const std::string& picture) {
 }
 
 std::shared_ptr<const InkMask> ImagePoints::of(const std::string& path) {
-    const std::string skinned = resolveSkinPath(path, _roots);
-    const std::string& picture = skinned.empty() ? path : skinned;
+    const std::string picture = fileOf(path);
     const std::string stamp = fileStamp(picture);
     Held& held = _held[picture];
     held.usedAt = ++_uses;

@@ -17,6 +17,8 @@ class ImagePoints {
 public:
     explicit ImagePoints(SkinRoots roots = skinRoots());
 
+    /// Where a picture stands: one of the skin may be named by "./skin/…".
+    [[nodiscard]] std::string fileOf(const std::string& picture) const;
     /// The shape of a picture; null if it can't be read. One that was replaced is read again.
     [[nodiscard]] std::shared_ptr<const InkMask> of(const std::string& picture);
 

@@ -2,6 +2,7 @@
 
 #include "canvas/imagePoints.h"
 #include "canvas/overlayPainting.h"
+#include "support/fileComparison.h"
 
 #include <algorithm>
 #include <utility>
@@ -24,6 +25,12 @@ QRgb shownColour(QRgb colour) {
     return colour == 0 ? 0x00ffffff : colour;
 }
 
+/// Whether two parts paint the same in the same colour.
+bool paintsAlike(const PreviewPart& one, const PreviewPart& other) {
+    return one.place() == other.place() && one.picture == other.picture && one.isColorFill == other.isColorFill &&
+           one.isWallpaper == other.isWallpaper;
+}
+
 QRegion simplified(const QRegion& region) {
     const QRegion seen = region & previewFrame;
     return seen.rectCount() > maxPieces ? QRegion(seen.boundingRect()) : seen;
@@ -40,8 +47,19 @@ PreviewComposition::PreviewComposition()
     : PreviewComposition(imagePoints()) {}
 
 void PreviewComposition::setDescription(PreviewDescription description) {
-    _description = std::move(description);
-    _slots.assign(_description.parts.size() + 1, Slot());
+    const PreviewDescription before = std::exchange(_description, std::move(description));
+    std::vector<Slot> fresh(_description.parts.size() + 1);
+    for (std::size_t slot = 0; slot < std::min(fresh.size(), _slots.size()); ++slot) {
+        const bool isSame = slot == 0 ? before.background == _description.background
+                                      : paintsAlike(before.parts[slot - 1], _description.parts[slot - 1]);
+        if (isSame && _slots[slot].isHeld && _slots[slot].stamp == fileStamp(fileOf(slot)))
+            fresh[slot] = std::move(_slots[slot]);
+    }
+    _slots = std::move(fresh);
+    for (std::size_t part = 0; part < parts().size(); ++part) {
+        if (before.parts.size() > part && before.parts[part].colour() != parts()[part].colour())
+            recolour(part);
+    }
     _hasUnread = true;
     _dirty = previewFrame;
 }
@@ -153,8 +171,17 @@ QRect PreviewComposition::inkOf(std::size_t part) {
     return _slots[part + 1].ink;
 }
 
+std::string PreviewComposition::fileOf(std::size_t slot) const {
+    const std::string& picture = slot == 0 ? _description.background : parts()[slot - 1].picture;
+    return picture.empty() ? picture : _points.fileOf(picture);
+}
+
 PreviewLayer PreviewComposition::readLayer(std::size_t slot) const {
-    return slot == 0 ? PreviewLayer::background(_description.background) : PreviewLayer(parts()[slot - 1], _points);
+    if (slot == 0)
+        return PreviewLayer::background(fileOf(slot));
+    PreviewPart part = parts()[slot - 1];
+    part.picture = fileOf(slot);
+    return {part, _points};
 }
 
 /// Reads a layer's pixels if they aren't there.
@@ -164,6 +191,7 @@ void PreviewComposition::hold(std::size_t index) {
     if (slot.isHeld)
         return;
     const QRect before = slot.ink;
+    slot.stamp = fileStamp(fileOf(index));
     slot.layer = readLayer(index);
     slot.ink = slot.layer.ink();
     slot.isHeld = true;

@@ -29,7 +29,8 @@ public:
     /// Takes shapes from the process's own store of them.
     PreviewComposition();
 
-    /// Replaces all parts and the background; pictures are read anew.
+    /// Replaces all parts and the background. A part that stays what it was but for its colours, and whose file is
+    /// unchanged, isn't read again.
     void setDescription(PreviewDescription description);
     /// Replaces the rectangles over the parts. A colour with `cover` counts as opaque. A picture that is larger than
     /// its rectangle is scaled down in its proportions, and lies in the middle.
@@ -73,6 +74,7 @@ private:
     /// A layer and what is known of it. That of the background stands before those of the parts.
     struct Slot {
         PreviewLayer layer;
+        std::string stamp;   ///< Of the picture's file when it was read.
         QRect ink;           ///< Also while the pixels were given up.
         bool isRead = false; ///< Its ink is known.
         bool isHeld = false; ///< Its pixels are there.
@@ -82,6 +84,7 @@ private:
     [[nodiscard]] bool isSeen(std::size_t slot) const;
     void forget(std::size_t slot);
     void recolour(std::size_t part);
+    [[nodiscard]] std::string fileOf(std::size_t slot) const;
     [[nodiscard]] PreviewLayer readLayer(std::size_t slot) const;
     void hold(std::size_t slot);
     void readAll();

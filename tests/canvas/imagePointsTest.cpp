@@ -1,0 +1,201 @@
+#include "canvas/imagePoints.h"
+
+#include "canvas/shapes.h"
+#include "canvas/tint.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstring>
+
+namespace zdt::test {
+namespace {
+
+constexpr std::size_t headSize = 264;
+constexpr std::size_t pointSize = 12;
+
+class ImagePointsTest : public testing::Test {
+protected:
+    [[nodiscard]] ImagePoints points() const { return ImagePoints({folder.path(), folder.path("program/")}); }
+    [[nodiscard]] std::string add(const std::string& name, const QSize& size, long seconds = 1000) const {
+        std::string path = saved(folder, "skin/ZDThemeDesign/simplepic/" + name, disc(size));
+        setTime(path, seconds);
+        return path;
+    }
+    static void setTime(const std::string& path, long seconds) {
+        const std::array<std::timespec, 2> times{{{seconds, 0}, {seconds, 0}}};
+        ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times.data(), 0), 0);
+    }
+    [[nodiscard]] std::string bytes() const { return readFile(desc); }
+    /// Writes the file, as old as now.
+    void put(const std::string& content) const {
+        static_cast<void>(folder.write("skin/ZDThemeDesign/ImageInfo.desc", content));
+    }
+    /// A picture of another shape, its time as before: what is recorded of the first is what is given.
+    void swap(const std::string& path, long seconds = 1000) const {
+        ASSERT_TRUE(disc({30, 30}).scaled(20, 20).save(QString::fromStdString(path)));
+        setTime(path, seconds);
+    }
+
+    TemporaryFolder folder;
+    std::string desc = folder.path("skin/ZDThemeDesign/ImageInfo.desc");
+};
+
+PixelList listed(const QImage& picture) {
+    PixelList list;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (const int alpha = qAlpha(picture.pixel(x, y)); alpha > 0)
+                list.push_back({x, y, alpha});
+        }
+    }
+    return list;
+}
+
+TEST_F(ImagePointsTest, RecordIsWrittenAsStatedAndReadAgain) {
+    const std::string path = add("a.png", {20, 20});
+    const PixelList wanted = listed(disc({20, 20}));
+    EXPECT_EQ(points().of(path)->points(), wanted);
+
+    const std::string written = bytes();
+    ASSERT_EQ(written.size(), headSize + pointSize * wanted.size());
+    EXPECT_EQ(static_cast<unsigned char>(written[0]), wanted.size() & 0xff);
+    EXPECT_STREQ(written.c_str() + 4, "skin/ZDThemeDesign/simplepic/a.png");
+    EXPECT_EQ(written[headSize], static_cast<char>(wanted[0].x));
+    EXPECT_EQ(written[headSize + 4], static_cast<char>(wanted[0].y));
+    EXPECT_EQ(written[headSize + 8], static_cast<char>(wanted[0].alpha));
+
+    swap(path);
+    EXPECT_EQ(points().of("./skin/ZDThemeDesign/simplepic/a.png")->points(), wanted);
+    EXPECT_EQ(bytes(), written);
+}
+
+TEST_F(ImagePointsTest, CutFileKeepsWhatIsWholeAndTakesMore) {
+    const std::string first = add("a.png", {20, 20});
+    const std::string second = add("b.png", {12, 12});
+    std::size_t firstEnd = 0;
+    {
+        ImagePoints both = points();
+        ASSERT_TRUE(both.of(first));
+        firstEnd = bytes().size();
+        ASSERT_TRUE(both.of(second));
+    }
+    const std::string whole = bytes();
+    const PixelList ofSecond = listed(disc({12, 12}));
+    for (const std::size_t size : {std::size_t{0}, std::size_t{3}, headSize - 1, headSize, firstEnd - 1, firstEnd,
+                                   firstEnd + 3, firstEnd + headSize, whole.size() - 1}) {
+        put(whole.substr(0, size));
+        EXPECT_EQ(points().of(second)->points(), ofSecond) << size;
+        EXPECT_EQ(points().of(first)->points(), listed(disc({20, 20}))) << size;
+        EXPECT_EQ(bytes().size(), whole.size()) << size;
+    }
+}
+
+TEST_F(ImagePointsTest, DamagedRecordsAreNotBelieved) {
+    const std::string path = add("a.png", {20, 20});
+    ASSERT_TRUE(points().of(path));
+    const std::string whole = bytes();
+    const auto with = [&whole](std::size_t at, const std::string& patch) {
+        std::string damaged = whole;
+        return damaged.replace(at, patch.size(), patch);
+    };
+    const std::vector<std::pair<const char*, std::string>> cases{
+        {"count beyond the file", with(0, "\xff\xff\xff\x7f")},
+        {"largest count", with(0, "\xff\xff\xff\xff")},
+        {"path that nothing ends", with(4, std::string(260, 'p'))},
+        {"path that leads outside", with(4, std::string("skin/../a.png\0", 14))},
+        {"point right of the picture", with(headSize, std::string("\x14\0\0\0", 4))},
+        {"point above the picture", with(headSize + 4, "\xff\xff\xff\xff")},
+        {"alpha of nothing", with(headSize + 8, std::string(4, '\0'))},
+        {"alpha beyond a byte", with(headSize + 9, "\1")},
+        {"no file at all", "damaged"},
+    };
+    for (const auto& [name, content] : cases) {
+        put(content);
+        EXPECT_EQ(points().of(path)->points(), listed(disc({20, 20}))) << name;
+        EXPECT_EQ(points().of(path)->points(), listed(disc({20, 20}))) << name;
+    }
+}
+
+TEST_F(ImagePointsTest, RecordOlderThanItsPictureIsNeverUsedAgain) {
+    const std::string path = add("a.png", {20, 20});
+    const std::string other = add("b.png", {12, 12}, 900);
+    ASSERT_TRUE(points().of(path));
+    swap(path, 2000);
+    const PixelList fresh = listed(QImage(QString::fromStdString(path)));
+    // What is recorded next makes the file newer, but not the old record true.
+    setTime(other, 3000);
+    ASSERT_TRUE(points().of(other));
+    EXPECT_EQ(points().of(path)->points(), fresh);
+
+    ImagePoints running = points();
+    ASSERT_TRUE(running.of(path));
+    ASSERT_TRUE(QImage(disc({20, 20})).save(QString::fromStdString(path)));
+    setTime(path, 4000);
+    ASSERT_TRUE(running.of(add("c.png", {9, 9}, 5000)));
+    EXPECT_EQ(points().of(path)->points(), listed(disc({20, 20})));
+}
+
+TEST_F(ImagePointsTest, OnlyPicturesOfTheSkinAreRecorded) {
+    const std::string deep = "skin/ZDThemeDesign/" + std::string(120, 'd') + "/";
+    const std::size_t left = 259 - deep.size() - 4;
+    const std::string longest = saved(folder, deep + std::string(left, 'n') + ".png", disc({8, 8}));
+    const std::string tooLong = saved(folder, deep + std::string(left + 1, 'n') + ".png", disc({8, 8}));
+    const std::string elsewhere = saved(folder, "theme/a.png", disc({8, 8}));
+    const std::string otherSkin = saved(folder, "theme/skin/a.png", disc({8, 8}));
+    ImagePoints all = points();
+    for (const std::string& path : {elsewhere, otherSkin, tooLong}) {
+        EXPECT_TRUE(all.of(path)) << path;
+        EXPECT_EQ(bytes(), "") << path;
+    }
+    EXPECT_TRUE(all.of(longest));
+    EXPECT_EQ(bytes().size(), headSize + pointSize * listed(disc({8, 8})).size());
+    EXPECT_FALSE(all.of(folder.path("skin/ZDThemeDesign/none.png")));
+    EXPECT_FALSE(all.of(folder.write("skin/ZDThemeDesign/text.png", "text")));
+}
+
+TEST_F(ImagePointsTest, ShippedRecordsAreReadAndCarriedOver) {
+    const std::string path = add("a.png", {20, 20});
+    ASSERT_TRUE(points().of(path));
+    const std::string shipped = folder.write("program/skin/ZDThemeDesign/ImageInfo.desc", bytes());
+    ASSERT_EQ(::unlink(desc.c_str()), 0);
+    swap(path);
+    ImagePoints running = points();
+    EXPECT_EQ(running.of(path)->points(), listed(disc({20, 20})));
+    EXPECT_EQ(bytes(), "");
+    ASSERT_TRUE(running.of(add("b.png", {12, 12})));
+    EXPECT_EQ(points().of(path)->points(), listed(disc({20, 20})));
+    EXPECT_GT(bytes().size(), readFile(shipped).size());
+}
+
+TEST_F(ImagePointsTest, FolderThatCannotBeWrittenOnlyKeepsNothing) {
+    const std::string shipped = saved(folder, "program/skin/ZDThemeDesign/a.png", disc({20, 20}));
+    // Where the folder belongs stands a file: that stops even a user whom no permission stops.
+    const std::string blocked = folder.write("blocked", "");
+    ImagePoints running({blocked + "/", folder.path("program/")});
+    EXPECT_EQ(running.of(shipped)->points(), listed(disc({20, 20})));
+    EXPECT_EQ(running.of(shipped)->points(), listed(disc({20, 20})));
+}
+
+TEST(Tint, EqualsAWalkOverThePixels) {
+    const QImage picture = disc({41, 33}, QColor(10, 20, 30, 200));
+    const InkMask mask = InkMask::ofImage(picture);
+    EXPECT_EQ(mask.points(), InkMask::ofPoints(picture.size(), mask.points()).points());
+    for (const QRgb colour : {0xffffffffU, 0xff102030U, 0x80ff8000U, 0x01ffffffU, 0x00ffffffU}) {
+        const QImage image = tinted(mask, colour);
+        ASSERT_EQ(image.size(), picture.size());
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const int alpha = qAlpha(picture.pixel(x, y)) * qAlpha(colour) / 255;
+                const QRgb wanted = qPremultiply((colour & 0xffffff) | static_cast<QRgb>(alpha) << 24);
+                ASSERT_EQ(reinterpret_cast<const QRgb*>(image.constScanLine(y))[x], wanted) << x << ' ' << y;
+            }
+        }
+    }
+}
+
+} // namespace
+} // namespace zdt::test
