@@ -161,6 +161,7 @@ private:
     void refuse(const char* messageKey);
     void refuseDrag();
     void tell(const char* messageKey);
+    void showTold();
 
     DesignSpace _space;
     QImage _background;
@@ -178,6 +179,7 @@ private:
     bool _notifySelect = false;
     bool _enableHot = true;
     bool _tells = false;             ///< Whether a box is shown or about to be.
+    const char* _told = nullptr;     ///< The key of what a box tells now or in a moment; null for none.
     std::optional<int> _captureKind; ///< Requested for the next paint.
 
     AnimationRun _run;

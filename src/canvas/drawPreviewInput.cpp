@@ -222,16 +222,18 @@ void CDrawPreview::refuseDrag() {
 }
 
 void CDrawPreview::tell(const char* messageKey) {
-    if (_tells)
+    if (_told)
         return;
-    _tells = true;
+    _told = messageKey;
     // Not from within the event of a mouse or key: the box waits, and the canvas may be gone behind it.
-    QTimer::singleShot(0, this, [this, messageKey] {
-        const QPointer<CDrawPreview> canvas(this);
-        tellNote(this, messageKey);
-        if (canvas)
-            canvas->_tells = false;
-    });
+    QTimer::singleShot(0, this, &CDrawPreview::showTold);
+}
+
+void CDrawPreview::showTold() {
+    const QPointer<CDrawPreview> canvas(this);
+    tellNote(this, _told);
+    if (canvas)
+        canvas->_told = nullptr;
 }
 
 bool CDrawPreview::event(QEvent* event) {
