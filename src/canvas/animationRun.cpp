@@ -43,7 +43,9 @@ AnimationRun::Pass AnimationRun::pass(std::int64_t now) {
     if (now < _due)
         return Pass::unchanged;
     // Counted from when it was due, so that late passes don't slow it down; what was missed by far isn't caught up.
-    _due = std::max(_due, now - animationTick) + animationTick;
+    _due += animationTick;
+    if (_due <= now)
+        _due = now + animationTick;
     for (ItemAnimation* animation : _animations) {
         if (staysFinished(animation))
             continue;

@@ -15,8 +15,9 @@ struct BackgroundModes {
     bool cropTop = false;  ///< With `keepFull`: the middle 1920 rows of a high picture.
     bool fit = false;      ///< Scaled to the height of the screen.
     bool fitAlternate = false;
-    bool noZoom = false;            ///< Without the zoom with which the phone shows a lock screen.
-    std::optional<EdgeRect> source = std::nullopt; ///< The part of the picture that fills the screen, whatever the rest says.
+    bool noZoom = false; ///< Without the zoom with which the phone shows a lock screen.
+    std::optional<EdgeRect> source =
+        std::nullopt; ///< The part of the picture that fills the screen, whatever the rest says.
 
     friend bool operator==(const BackgroundModes&, const BackgroundModes&) = default;
 };

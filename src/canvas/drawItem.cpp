@@ -31,6 +31,16 @@ TextAlign textAlignOf(const std::string& align) {
     return align == "right" ? TextAlign::right : TextAlign::left;
 }
 
+EdgeRect boundsOf(const ItemPlaces& places) {
+    EdgeRect all = places.rect;
+    for (const ItemPlaces& part : places.parts) {
+        const EdgeRect inner = boundsOf(part);
+        all = {std::min(all.left, inner.left), std::min(all.top, inner.top), std::max(all.right, inner.right),
+               std::max(all.bottom, inner.bottom)};
+    }
+    return all;
+}
+
 CDrawItem::CDrawItem(QString itemName)
     : _name(std::move(itemName))
     , _id(nextId()) {}

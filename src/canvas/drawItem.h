@@ -38,6 +38,9 @@ struct ItemPlaces {
     std::vector<ItemPlaces> parts;
 };
 
+/// The rectangle around all of them.
+[[nodiscard]] EdgeRect boundsOf(const ItemPlaces& places);
+
 /// What lies on the canvas: a picture, or a text if it has one. Places are pixels of the design space. Whoever changes
 /// an item that is on a canvas calls the canvas's `refresh` afterwards.
 class CDrawItem {

@@ -173,15 +173,18 @@ PlacementFault CDrawPreview::CheckRect(const EdgeRect& rect, int withoutListOrde
 }
 
 PreviewScene CDrawPreview::scene() const {
-    return {_space, _background, _modes, _items, _selected, _hand.drags() ? _selected : nullptr, isPlaying()};
+    return {_space, _background, _modes, _items, _selected, _hand.isIdle() ? nullptr : _selected, isPlaying()};
 }
 
 void CDrawPreview::paintEvent(QPaintEvent* /*event*/) {
     const QRect screen = screenRect();
     if (!screen.isEmpty()) {
         orderItems();
-        const QSize pixels = (QSizeF(screen.size()) * devicePixelRatio()).toSize();
-        QPainter(this).drawImage(QRectF(screen), _frame.compose(scene(), pixels, devicePixelRatio()));
+        QPainter painter(this);
+        // That of the surface: a picture of the canvas may be finer than the screen.
+        const double pixelRatio = painter.deviceTransform().m11();
+        const QSize pixels = (QSizeF(screen.size()) * pixelRatio).toSize();
+        painter.drawImage(QRectF(screen), _frame.compose(scene(), pixels, pixelRatio));
     }
     if (_captureKind)
         sendCapture();
@@ -194,10 +197,10 @@ void CDrawPreview::send(const char* name, const CDrawItem& item) {
 
 void CDrawPreview::requestCapture(int captureKind) {
     _captureKind = captureKind;
-    if (isVisible())
-        update();
-    else
+    if (visibleRegion().isEmpty() || window()->isMinimized())
         sendCapture();
+    else
+        update();
 }
 
 void CDrawPreview::sendCapture() {
@@ -268,6 +271,8 @@ int CDrawPreview::heightForWidth(int width) const {
 
 void CDrawPreview::hideEvent(QHideEvent* event) {
     cancelDrag();
+    if (_captureKind)
+        sendCapture();
     QWidget::hideEvent(event);
 }
 

@@ -88,6 +88,8 @@ public:
     /// Gives the selected item a place, and the parts of a group with it. A place that isn't allowed is told, and the
     /// item stays where it was; false then and without a selected item. For what an author enters.
     bool placeSelected(const EdgeRect& rect);
+    /// What is wrong with a place for an item. Tells nothing.
+    [[nodiscard]] PlacementFault CheckPlacement(const CDrawItem& item, const EdgeRect& rect) const;
     /// Whether a new element may lie there: on the screen, clear of the unlock control, and overlapping none that is
     /// `safeAreaChecked`, the selected one excepted. Tells nothing.
     [[nodiscard]] PlacementFault CheckRect(const EdgeRect& rect) const;
@@ -96,7 +98,7 @@ public:
 
     // Pictures of the whole.
 
-    /// Lets a notification with `captureKind` follow the next paint, or come at once if the canvas isn't seen: by kind
+    /// Lets a notification with `captureKind` follow the next paint, or come at once where none will follow: by kind
     /// 3 or 4 that of the video lock, otherwise that of the designed one.
     void requestCapture(int captureKind);
     /// The canvas at the phone's own size, without the marks of the selection and without areas.
@@ -159,6 +161,7 @@ private:
     void refuse(const char* messageKey);
     void refuseDrag();
     void tell(const char* messageKey);
+    void showTold();
 
     DesignSpace _space;
     QImage _background;
@@ -176,6 +179,7 @@ private:
     bool _notifySelect = false;
     bool _enableHot = true;
     bool _tells = false;             ///< Whether a box is shown or about to be.
+    const char* _told = nullptr;     ///< The key of what a box tells now or in a moment; null for none.
     std::optional<int> _captureKind; ///< Requested for the next paint.
 
     AnimationRun _run;

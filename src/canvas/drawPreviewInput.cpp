@@ -138,7 +138,7 @@ void CDrawPreview::dragTo(const QPoint& point) {
     }
     if (_selected->locked)
         return;
-    const EdgeRect before = _selected->rect();
+    const EdgeRect before = boundsOf(_selected->places());
     const QPoint way = wayInDesign(point - _hand.dragStart(), screenRect(), _space);
     // Always from where the drag began, so that what is lost of a pixel doesn't add up.
     _selected->setPlaces(_restore);
@@ -149,7 +149,7 @@ void CDrawPreview::dragTo(const QPoint& point) {
         _selected->Move(_selected->placement.fixedHorizontal ? 0 : way.x(), way.y());
     }
     _frame.refresh(before);
-    _frame.refresh(_selected->rect());
+    _frame.refresh(boundsOf(_selected->places()));
     update();
 }
 
@@ -184,8 +184,12 @@ bool CDrawPreview::placeSelected(const EdgeRect& rect) {
     return keepPlace();
 }
 
+PlacementFault CDrawPreview::CheckPlacement(const CDrawItem& item, const EdgeRect& rect) const {
+    return checkPlacement(rect, item.placement, _space, _enableHot);
+}
+
 bool CDrawPreview::keepPlace() {
-    const PlacementFault fault = checkPlacement(_selected->rect(), _selected->placement, _space, _enableHot);
+    const PlacementFault fault = CheckPlacement(*_selected, _selected->rect());
     if (fault != PlacementFault::none) {
         refuse(messageOf(fault));
         return false;
@@ -218,16 +222,18 @@ void CDrawPreview::refuseDrag() {
 }
 
 void CDrawPreview::tell(const char* messageKey) {
-    if (_tells)
+    if (_told)
         return;
-    _tells = true;
+    _told = messageKey;
     // Not from within the event of a mouse or key: the box waits, and the canvas may be gone behind it.
-    QTimer::singleShot(0, this, [this, messageKey] {
-        const QPointer<CDrawPreview> canvas(this);
-        tellNote(this, messageKey);
-        if (canvas)
-            canvas->_tells = false;
-    });
+    QTimer::singleShot(0, this, &CDrawPreview::showTold);
+}
+
+void CDrawPreview::showTold() {
+    const QPointer<CDrawPreview> canvas(this);
+    tellNote(this, _told);
+    if (canvas)
+        canvas->_told = nullptr;
 }
 
 bool CDrawPreview::event(QEvent* event) {

@@ -31,7 +31,7 @@ Places placed(const std::vector<OrderFlags>& items) {
 
 std::vector<std::size_t> paintOrder(const std::vector<OrderFlags>& items) {
     Places order = placed(items);
-    const auto toFront = [&order](auto&& isFirst) { std::ranges::stable_partition(order, isFirst); };
+    const auto toFront = [&order](auto&& isFirst) { std::stable_partition(order.begin(), order.end(), isFirst); };
     toFront([&items](std::size_t item) { return items[item].layer != topLayer; });
     toFront([&items](std::size_t item) { return items[item].isBackdrop || items[item].isArea; });
     toFront([&items](std::size_t item) { return !items[item].alwaysLast; });

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace zdt {
 
@@ -41,17 +42,13 @@ const QImage& PreviewFrame::compose(const PreviewScene& scene, const QSize& size
         _frame = QImage(size, QImage::Format_RGB32);
         _isWhole = false;
     }
-    const bool standsLifted = _isWhole && scene.lifted && scene.lifted == _lifted;
-    _lifted = scene.lifted;
+    const CDrawItem* liftedBefore = std::exchange(_lifted, scene.lifted);
     if (scene.lifted) {
-        if (!standsLifted)
+        if (!_isWhole || liftedBefore != scene.lifted)
             lift(scene, pixelRatio);
         composeLifted(scene, pixelRatio);
-    } else if (!_isWhole || _below.size() == size) {
-        // A drag that ended leaves a frame of which parts may be missing.
+    } else if (!_isWhole || liftedBefore) {
         composeWhole(scene, pixelRatio);
-        _below = QImage();
-        _above = QImage();
     }
     _dirty.clear();
     _isWhole = true;
@@ -70,13 +67,15 @@ void PreviewFrame::composeWhole(const PreviewScene& scene, double pixelRatio) {
 
 void PreviewFrame::lift(const PreviewScene& scene, double pixelRatio) {
     const std::size_t place = placeOf(scene.items, scene.lifted);
-    _below = QImage(_frame.size(), QImage::Format_RGB32);
+    if (_below.size() != _frame.size()) {
+        _below = QImage(_frame.size(), QImage::Format_RGB32);
+        _above = QImage(_frame.size(), QImage::Format_ARGB32_Premultiplied);
+    }
     _below.fill(Qt::white);
     QPainter belowSurface(&_below);
     ItemPainter below(belowSurface, _below.size(), scene.space, pixelRatio, _pictures);
     paintBackground(below, scene);
     paintItems(below, scene, 0, place);
-    _above = QImage(_frame.size(), QImage::Format_ARGB32_Premultiplied);
     _above.fill(Qt::transparent);
     QPainter aboveSurface(&_above);
     ItemPainter above(aboveSurface, _above.size(), scene.space, pixelRatio, _pictures);

@@ -26,11 +26,11 @@ struct PreviewScene {
     BackgroundModes modes;
     const DrawItems& items;              ///< In the order of painting.
     const CDrawItem* selected = nullptr; ///< Gets its marks, above everything.
-    const CDrawItem* lifted = nullptr;   ///< Follows the hand now.
+    const CDrawItem* lifted = nullptr;   ///< Is held by the hand now.
     bool playing = false;
 };
 
-/// The composed canvas, in the pixels in which it is shown. While an item follows the hand, what lies below it and
+/// The composed canvas, in the pixels in which it is shown. While an item is held by the hand, what lies below it and
 /// above it is drawn once, and of the rest only what the item left and reached.
 class PreviewFrame {
 public:

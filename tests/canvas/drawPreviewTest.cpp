@@ -255,7 +255,7 @@ TEST_F(DrawPreview, PartsOfAGroupFollowIt) {
     drag({400, 400}, {440, 400});
     EXPECT_EQ(parts.parts[0], (GroupPart{1, {340, 300, 440, 350}}));
     drag({620, 580}, {820, 580});
-    EXPECT_EQ(parts.parts[0], (GroupPart{1, {465, 363, 615, 438}}));
+    EXPECT_EQ(parts.parts[0], (GroupPart{1, {465, 362, 615, 437}}));
     EXPECT_EQ(parts.writes, 2) << "once a drop, and not for what is dragged";
     parts.takes = false;
     const EdgeRect before = item.rect();
