@@ -43,7 +43,7 @@ PictureRefusal refusalOf(const PictureEntry& entry, const std::string& path) {
     const bool isNinePatch = entry.isNinePatch();
     if (!isNinePatch && holdsNinePatchMark(path))
         return {plainWanted, {}};
-    if (isNinePatch && PictureSuffixOf(fileName(path)) != ".9.png")
+    if (isNinePatch && !path.ends_with(".9.png"))
         return {ninePatchWanted, {}};
     const PictureCheck check = CheckPictureUpload(path, false, pictureLimit, kWarn_upload_lessthenoneM_png_pic);
     if (!check.passes)
