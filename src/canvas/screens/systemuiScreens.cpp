@@ -140,7 +140,7 @@ Screen notificationScreen() {
 
 void badge(ScreenBuilder& b, const std::string& name, Point centre, char16_t sign, const Ink& ink) {
     b.panel(name + "_disc", around(centre, 48), 24, ink);
-    b.icon(name + "_sign", centre, 42, sign, panelBack);
+    b.icon(name + "_sign", centre, 42, sign, sharedBack);
 }
 
 void badges(ScreenBuilder& b, const std::string& name, int top, int rowPitch, int count, char16_t sign,

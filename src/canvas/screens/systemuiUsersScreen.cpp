@@ -106,7 +106,7 @@ void closeAll(ScreenBuilder& b) {
 void ground(ScreenBuilder& b) {
     constexpr Place whole{0, 0, phoneWidth, phoneHeight};
     b.leaveOut(before9);
-    b.fill(whole, oldBack);
+    b.fill(whole, sharedBack);
     b.leaveOut(only9);
     b.fill(whole, panelBack);
     b.leaveOut(0);
@@ -124,7 +124,7 @@ Screen usersScreen() {
         const Place card{60 + number % 2 * (width + 36), 738 + number / 2 * (height + 126), width, height};
         const std::string name = "task" + std::to_string(++number);
         taskHead(b, name, card, task.name, task.icon, task.kept);
-        b.card(name + "_card", card, 36, box);
+        b.card(name + "_card", card, 36, box.faded(255));
         task.draw(b, name, card);
     }
     closeAll(b);
