@@ -17,7 +17,7 @@ struct Detail {
 
 constexpr std::array<Detail, 5> details{{
     {sign::call, {"138 0000 8820", "138 0000 8820"}, {"Mobile · Hangzhou", "手机 · 浙江杭州"}, sign::chatBubbleOutline},
-    {sign::mailOutline, {"mei.lin@north.example", "linmei@north.example"}, {"Work", "单位"}, 0},
+    {sign::mailOutline, {"mei.lin@north.example", "linxiaomei@north.example"}, {"Work", "单位"}, 0},
     {sign::locationOn, {"16 Lakeside Road", "西湖区湖滨路 16 号"}, {"Home", "住宅"}, 0},
     {sign::cake, {"12 October", "10 月 12 日"}, {"Birthday", "生日"}, 0},
     {sign::musicNote, {"Morning light", "晨光"}, {"Ringtone", "来电铃声"}, sign::chevronRight},
@@ -60,7 +60,7 @@ void addHead(ScreenBuilder& screen) {
     screen.picture("contacts/profile_simple_card_background.9.png", {24, 348, 1032, 558});
     screen.panel("portrait_rim", around({540, 384}, 228), 114, white);
     screen.portrait("portrait", {540, 384}, 210, 4);
-    screen.text("name", {120, 546, 840}, {"Mei Lin", "林梅"}, {66, 600, TextAlign::centre}, text);
+    screen.text("name", {120, 546, 840}, {"Mei Lin", "林小梅"}, {66, 600, TextAlign::centre}, text);
     screen.text("company", {120, 618, 840}, {"Studio North · Hangzhou", "北方工作室 · 杭州"},
                 {39, 400, TextAlign::centre}, softText);
     addAction(screen, "call", 252, sign::call, {"Call", "呼叫"});
@@ -86,7 +86,7 @@ struct Field {
 };
 
 constexpr std::array<Field, 5> fields{{
-    {sign::personOutline, {"Name", "姓名"}, {"Mei Lin", "林梅"}, false},
+    {sign::personOutline, {"Name", "姓名"}, {"Mei Lin", "林小梅"}, false},
     {sign::business, {"Company", "公司"}, {"Studio North", "北方工作室"}, false},
     {sign::call, {"Mobile", "手机"}, {"138 0000 8820", "138 0000 8820"}, true},
     {sign::mailOutline, {"Email", "电子邮件"}, {}, false},
@@ -141,7 +141,7 @@ void addFields(ScreenBuilder& screen) {
         addField(screen, number++, top, field);
         if (field.active) {
             const int middle = top + 108;
-            screen.fill({fieldLeft + 348, middle - 33, 6, 66}, accent);
+            screen.fill({fieldLeft + 357, middle - 33, 6, 66}, accent);
             screen.text("number_kind", {fieldLeft + fieldWidth - 240, middle, 174}, {"Mobile", "手机"},
                         textStyle::aligned(textStyle::secondLine, TextAlign::right), softText);
             addExpander(screen, {fieldLeft + fieldWidth - 36, middle});

@@ -17,9 +17,9 @@ struct Call {
 };
 
 constexpr std::array<Call, 4> calls{{
-    {{"Mei Lin", "林梅"}, {"Mobile · Hangzhou", "手机 · 杭州"}, {"08:02", "08:02"}, sign::callReceived},
+    {{"Mei Lin", "林小梅"}, {"Mobile · Hangzhou", "手机 · 杭州"}, {"08:02", "08:02"}, sign::callReceived},
     {{"Studio North", "北方工作室"}, {"0571 8800 2210", "0571 8800 2210"}, {"07:41", "07:41"}, sign::callMade},
-    {{"Daniel Okoro (2)", "陈志远 (2)"}, {"Work · London", "单位 · 上海"}, {"Yesterday", "昨天"}, sign::callMissed},
+    {{"Daniel Okoro (2)", "陈子安 (2)"}, {"Work · London", "单位 · 上海"}, {"Yesterday", "昨天"}, sign::callMissed},
     {{"Grandma", "外婆"}, {"Home · Suzhou", "住宅 · 苏州"}, {"Yesterday", "昨天"}, sign::callReceived},
 }};
 

@@ -122,7 +122,7 @@ Screen homeScreen() {
     screen.statusBar(white);
     addEditBar(screen);
     screen.text("clock", {48, 438, 984}, {"08:08", "08:08"}, {204, 300, TextAlign::centre}, white);
-    screen.text("date", {48, 573, 984}, {"Thursday, 21 May", "5 月 21 日 星期四"}, {45, 400, TextAlign::centre}, white);
+    screen.text("date", {48, 573, 984}, {"Tuesday, 14 May", "5 月 14 日 星期二"}, {45, 400, TextAlign::centre}, white);
     addHomeApps(screen, 810);
     addPageDots(screen, 1701, 4, 2, white);
     addDock(screen);
@@ -192,7 +192,7 @@ Screen simpleScreen() {
     screen.fill({0, 0, phoneWidth, phoneHeight}, {"launcher/simple mode/background color", screenColour::paper});
     screen.statusBar(simpleText);
     screen.text("clock", {60, 252, 560}, {"08:08", "08:08"}, {186, 500}, simpleText);
-    screen.text("date", {60, 399, 640}, {"Thursday, 21 May", "5 月 21 日 星期四"}, {51, 400}, simpleText.faded(170));
+    screen.text("date", {60, 399, 640}, {"Tuesday, 14 May", "5 月 14 日 星期二"}, {51, 400}, simpleText.faded(170));
     screen.icon("weather", {951, 243}, 144, sign::wbSunny, {{}, 0xfff5a623});
     screen.text("degrees", {660, 399, 360}, {"Fine, 24 °C", "晴 24 °C"}, {51, 400, TextAlign::right},
                 simpleText.faded(170));
