@@ -84,7 +84,7 @@ void notices(ScreenBuilder& b) {
     noticeTexts(b, "message", top,
                 {{"Messages", "信息"},
                  {"now", "刚刚"},
-                 {"Mei Lin", "林梅"},
+                 {"Mei Lin", "林小梅"},
                  {"See you at six by the big clock", "六点在大钟下面见，我带伞"}});
     b.leaveOut(before9);
     b.roundButton("message_face", face, 108, sign::chatBubble, accent, panelBack);

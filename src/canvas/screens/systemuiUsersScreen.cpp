@@ -16,7 +16,7 @@ void users(ScreenBuilder& b) {
     constexpr int middle = 390;
     b.titleBar({"Users", "用户"}, plain, {sign::settings});
     b.portrait("owner_face", {171, middle}, 156, 4);
-    user(b, "owner", 171, {"Mei Lin", "林梅"}, true);
+    user(b, "owner", 171, {"Mei Lin", "林小梅"}, true);
     b.portrait("child_face", {417, middle}, 156, 1);
     user(b, "child", 417, {"Ines", "小雨"}, false);
     b.roundButton("guest_face", {663, middle}, 156, sign::person, discOff, plain);
