@@ -124,7 +124,7 @@ Screen contactListScreen() {
     top = rows(b, "c", top, {"C", "C"},
                {{{"Chen Wei", "陈伟"}, {"Mobile", "手机"}, 0, true}, {{"Clara Ruiz", "陈佳怡"}, {"Home", "住宅"}, 1}});
     rows(b, "m", top, {"M", "L"},
-         {{{"Mei Lin", "林梅"}, {"Mobile", "手机"}, 4},
+         {{{"Mei Lin", "林小梅"}, {"Mobile", "手机"}, 4},
           {{"Milan Novak", "刘晨"}, {"Mobile", "手机"}, 5},
           {{"Moses Hale", "罗一鸣"}, {"Work", "单位"}, 6}});
     alphabet(b);
@@ -139,7 +139,7 @@ namespace {
 
 void head(ScreenBuilder& b) {
     b.portrait("face", {168, 396}, 216, 4);
-    b.text("name", {318, 363, 660}, {"Mei Lin", "林梅"}, {63, 600}, first);
+    b.text("name", {318, 363, 660}, {"Mei Lin", "林小梅"}, {63, 600}, first);
     b.text("job", {318, 444, 660}, {"Printmaker, Studio North", "版画师，北方工作室"}, {42}, second);
     constexpr Words actions[] = {{"Call", "呼叫"}, {"Message", "信息"}, {"Video", "视频"}};
     int left = screenMargin;

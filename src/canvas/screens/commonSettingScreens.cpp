@@ -93,7 +93,7 @@ Screen dialScreen() {
     ScreenBuilder b("commonSetting", "dial");
     ground(b);
     b.portrait("face", {540, 336}, 288, 4);
-    b.text("name", {140, 570, 800}, {"Mei Lin", "林梅"}, {72, 600, TextAlign::centre}, first);
+    b.text("name", {140, 570, 800}, {"Mei Lin", "林小梅"}, {72, 600, TextAlign::centre}, first);
     b.text("number", {140, 651, 800}, {"Mobile, 0571 8800 2210", "手机 0571 8800 2210"}, {42, 400, TextAlign::centre},
            second);
     b.text("length", {140, 726, 800}, {"02:48", "02:48"}, {48, 500, TextAlign::centre}, accent);

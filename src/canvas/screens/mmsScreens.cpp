@@ -23,7 +23,7 @@ struct Conversation {
 };
 
 constexpr Conversation conversations[] = {
-    {{"Mei Lin", "林梅"},
+    {{"Mei Lin", "林小梅"},
      {"See you at six by the big clock", "六点在大钟下面见，我带伞"},
      {"17:32", "17:32"},
      4,
@@ -35,7 +35,7 @@ constexpr Conversation conversations[] = {
      1,
      {"S", "北"},
      {}},
-    {{"Daniel Okoro", "陈志远"}, {"Not sent. Tap to try again", "发送失败，点按重试"}, {"14:48", "14:48"}, 0, {}, {}},
+    {{"Daniel Okoro", "陈子安"}, {"Not sent. Tap to try again", "发送失败，点按重试"}, {"14:48", "14:48"}, 0, {}, {}},
     {{"Rail service", "铁路服务"},
      {"Train 482 leaves at 07:42", "482 次列车 07:42 发车"},
      {"11:20", "11:20"},

@@ -153,7 +153,7 @@ Screen conversationScreen() {
     ScreenBuilder b("mms", "MMS");
     threadPage(b);
     b.statusBar(first);
-    b.subTitleBar({"Mei Lin", "林梅"}, first, {sign::call, sign::moreVert});
+    b.subTitleBar({"Mei Lin", "林小梅"}, first, {sign::call, sign::moreVert});
     writtenMessages(b);
     inputBar(b);
     b.fill({0, 1452, phoneWidth, phoneHeight - 1452}, page);

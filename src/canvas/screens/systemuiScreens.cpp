@@ -84,7 +84,7 @@ void notices(ScreenBuilder& b) {
     noticeTexts(b, "message", top,
                 {{"Messages", "信息"},
                  {"now", "刚刚"},
-                 {"Mei Lin", "林梅"},
+                 {"Mei Lin", "林小梅"},
                  {"See you at six by the big clock", "六点在大钟下面见，我带伞"}});
     b.leaveOut(before9);
     b.roundButton("message_face", face, 108, sign::chatBubble, accent, panelBack);
@@ -140,7 +140,7 @@ Screen notificationScreen() {
 
 void badge(ScreenBuilder& b, const std::string& name, Point centre, char16_t sign, const Ink& ink) {
     b.panel(name + "_disc", around(centre, 48), 24, ink);
-    b.icon(name + "_sign", centre, 42, sign, panelBack);
+    b.icon(name + "_sign", centre, 42, sign, sharedBack);
 }
 
 void badges(ScreenBuilder& b, const std::string& name, int top, int rowPitch, int count, char16_t sign,

@@ -16,7 +16,7 @@ void users(ScreenBuilder& b) {
     constexpr int middle = 390;
     b.titleBar({"Users", "用户"}, plain, {sign::settings});
     b.portrait("owner_face", {171, middle}, 156, 4);
-    user(b, "owner", 171, {"Mei Lin", "林梅"}, true);
+    user(b, "owner", 171, {"Mei Lin", "林小梅"}, true);
     b.portrait("child_face", {417, middle}, 156, 1);
     user(b, "child", 417, {"Ines", "小雨"}, false);
     b.roundButton("guest_face", {663, middle}, 156, sign::person, discOff, plain);
@@ -106,7 +106,7 @@ void closeAll(ScreenBuilder& b) {
 void ground(ScreenBuilder& b) {
     constexpr Place whole{0, 0, phoneWidth, phoneHeight};
     b.leaveOut(before9);
-    b.fill(whole, oldBack);
+    b.fill(whole, sharedBack);
     b.leaveOut(only9);
     b.fill(whole, panelBack);
     b.leaveOut(0);
@@ -124,7 +124,7 @@ Screen usersScreen() {
         const Place card{60 + number % 2 * (width + 36), 738 + number / 2 * (height + 126), width, height};
         const std::string name = "task" + std::to_string(++number);
         taskHead(b, name, card, task.name, task.icon, task.kept);
-        b.card(name + "_card", card, 36, box);
+        b.card(name + "_card", card, 36, box.faded(255));
         task.draw(b, name, card);
     }
     closeAll(b);
