@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QTemporaryDir>
 
+#include <cstdint>
 #include <cstring>
 #include <map>
 #include <memory>
@@ -109,8 +110,10 @@ std::string widestKey(PreviewComposition& composition) {
     for (std::size_t part = 0; part < composition.parts().size(); ++part) {
         const std::string& key = composition.parts()[part].key;
         const QRect ink = composition.inkOf(part);
+        if (key.empty() || !composition.parts()[part].isColorFill)
+            continue;
         areas[key] += std::int64_t{ink.width()} * ink.height();
-        if (!key.empty() && areas[key] > areas[widest])
+        if (widest.empty() || areas[key] > areas[widest])
             widest = key;
     }
     return widest;
