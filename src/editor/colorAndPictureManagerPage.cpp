@@ -3,12 +3,14 @@
 #include "canvas/drawPictrue.h"
 #include "canvas/phoneView.h"
 #include "canvas/previewComposition.h"
+#include "editor/batchUpload.h"
 #include "editor/colorAndPictureSetPage.h"
 #include "editor/colorItem.h"
 #include "editor/colorSetPage.h"
 #include "editor/moduleWords.h"
 #include "editor/screenLegend.h"
 #include "editor/screenParts.h"
+#include "editor/screenPictures.h"
 #include "kit/flowView.h"
 #include "kit/icons.h"
 #include "kit/labels.h"
@@ -78,7 +80,9 @@ CColorAndPictureManagerPage::CColorAndPictureManagerPage(Workbench& bench, std::
             return;
         this->bench().notifications().SendNotify(_stripView.cellAt(index), notify::click);
     });
+    _batch = std::make_unique<BatchUpload>(bench, _module, *this);
     connectBar();
+    connectBatch();
     qApp->installEventFilter(this);
 }
 
@@ -123,6 +127,7 @@ int CColorAndPictureManagerPage::indexOf(const QString& screen) const {
 void CColorAndPictureManagerPage::reload() {
     if (_theme != bench().themeSerial()) {
         dropViews();
+        _batch->problemFiles.clear();
         _theme = bench().themeSerial();
     }
     if (isVisible())
@@ -209,6 +214,7 @@ CColorAndPictureSetPage& CColorAndPictureManagerPage::setPage(int index) {
     View& each = _views[static_cast<std::size_t>(index)];
     if (!each.set) {
         each.set = new CColorAndPictureSetPage(nameOf(each), bench().notifications(), &_sets);
+        each.set->setPictures(makePictures(*each.screen, *each.set));
         _sets.addWidget(each.set);
         connect(&each.set->colours(), &CColorSetPage::entered, this, [this, set = each.set](CColorItem* item) {
             if (const ColourRow* row = set->colours().rowOf(*item); row && view().composition)
@@ -221,6 +227,7 @@ CColorAndPictureSetPage& CColorAndPictureManagerPage::setPage(int index) {
 void CColorAndPictureManagerPage::fillSet(int index) {
     const View& each = _views[static_cast<std::size_t>(index)];
     setPage(index).showColours(*theme(), colourRowsOf(*theme(), *each.screen));
+    fillPictures(index);
 }
 
 void CColorAndPictureManagerPage::showScreen(int index) {
@@ -246,7 +253,7 @@ void CColorAndPictureManagerPage::showEvent(QShowEvent* event) {
 
 void CColorAndPictureManagerPage::hideEvent(QHideEvent* event) {
     ZPage::hideEvent(event);
-    pointAtNothing();
+    clearPictureHint();
     _composing.stop();
     // A composed screen takes 9 MiB: what isn't seen is put together again when it is.
     _phone->picture().setComposition(nullptr);
@@ -356,10 +363,18 @@ bool CColorAndPictureManagerPage::showKey(const std::string& key) {
         fillSet(index);
         CColorAndPictureSetPage& set = setPage(index);
         CColorItem* item = set.colours().itemOf(key);
-        if (!item)
+        const std::string name = key.substr(key.rfind('/') + 1);
+        const bool isPicture = !item && set.pictures()->has(name);
+        if (!item && !isPicture)
             continue;
         if (index != _screen)
             showScreen(index);
+        if (isPicture) {
+            set.clearFilter();
+            set.selectTab(CColorAndPictureSetPage::pictureTab);
+            set.pictures()->showPicture(shown(name));
+            return true;
+        }
         set.selectTab(CColorAndPictureSetPage::colourTab);
         set.colours().showItem(*item);
         return true;

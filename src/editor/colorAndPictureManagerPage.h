@@ -2,7 +2,9 @@
 
 #include "canvas/screens/screenLayer.h"
 #include "editor/colourItems.h"
+#include "editor/pictureEntry.h"
 #include "editor/screenStrip.h"
+#include "kit/fileChoice.h"
 #include "kit/page.h"
 
 #include <QColor>
@@ -21,10 +23,12 @@ class QStackedWidget;
 
 namespace zdt {
 
+class BatchUpload;
 class CColorAndPictureSetPage;
 class CColorItem;
 class PreviewComposition;
 class ScreenLegend;
+class ScreenPictures;
 class ZElidedLabel;
 class ZFlowView;
 class ZPhoneView;
@@ -51,6 +55,8 @@ public:
     /// screen that has it, the chosen one before all others. False if none has.
     bool showKey(const std::string& key);
     void focusSearch();
+
+    FileChoice pictureChoice{QStandardPaths::PicturesLocation};
 
 signals:
     /// The theme isn't what it was.
@@ -111,6 +117,22 @@ private:
     void colourChanged(const ItemPath& path);
     void refreshVisibility();
 
+    // What is done with pictures
+    void connectBatch();
+    ScreenPictures* makePictures(const Screen& screen, CColorAndPictureSetPage& set);
+    void fillPictures(int index);
+    void hintPicture(const std::string& name);
+    void clearPictureHint();
+    /// The key in the layers of a picture of the chosen screen.
+    [[nodiscard]] std::string keyOfPicture(const std::string& name);
+    void choosePicture(const PictureEntry& entry);
+    void uploadPictureFile(PictureEntry entry, const QString& path);
+    void resetEntry(PictureEntry entry);
+    void savePicture(const PictureEntry& entry);
+    void entryChanged(const PictureEntry& entry);
+    /// Shows on all previews what a picture is now, and tells of the change.
+    void pictureChanged(const std::string& name);
+
     std::string _module;
     QLabel& _title;
     QLabel& _count;
@@ -125,6 +147,8 @@ private:
     ZPhoneView* _phone;
     ScreenLegend* _legend;
     ScreenStrip _strip;
+    std::unique_ptr<BatchUpload> _batch;
+    bool _isGrid = false; ///< How pictures are shown.
     std::vector<View> _views;
     int _screen = -1;
     std::uint64_t _theme = 0;        ///< The serial of the theme that is shown.

@@ -1,6 +1,7 @@
 #include "canvas/drawPictrue.h"
 #include "canvas/phoneView.h"
 #include "canvas/previewComposition.h"
+#include "editor/batchUpload.h"
 #include "editor/codeWords.h"
 #include "editor/colorAndPictureManagerPage.h"
 #include "editor/colorAndPictureSetPage.h"
@@ -8,6 +9,7 @@
 #include "editor/colorSetPage.h"
 #include "editor/colourTyping.h"
 #include "editor/screenParts.h"
+#include "editor/screenPictures.h"
 #include "kit/colourDialog.h"
 #include "kit/localisation.h"
 #include "kit/messageBoxes.h"
@@ -80,6 +82,14 @@ void CColorAndPictureManagerPage::Notify(const Notification& message) {
             pointAtNothing();
         return;
     }
+    if (message.name == notify::Notify_Pic_Hint)
+        return hintPicture(reinterpret_cast<const QString*>(message.lParam)->toStdString());
+    if (message.name == notify::Notify_Pic_Hint_Reset)
+        return clearPictureHint();
+    if (message.name == notify::click && name == pictureControl::uploadMany)
+        return _batch->askFiles();
+    if (message.name == notify::click && name == pictureControl::tellHow)
+        return _batch->tellHow();
     if (const QStringList tokens = name.split('|'); tokens.size() >= fewestTokens)
         dispatch(message.sender, message.name, tokens);
 }

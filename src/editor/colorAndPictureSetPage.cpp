@@ -2,6 +2,7 @@
 
 #include "editor/changedMark.h"
 #include "editor/colorSetPage.h"
+#include "editor/screenPictures.h"
 #include "editor/screenTab.h"
 #include "kit/exclusiveFocus.h"
 #include "kit/lateSignals.h"
@@ -119,13 +120,15 @@ void CColorAndPictureSetPage::showCounts() {
                    TextWith("kList_changed_count", _colours->changedCount()));
 }
 
-void CColorAndPictureSetPage::setPictures(QWidget* pictures) {
+void CColorAndPictureSetPage::setPictures(ScreenPictures* pictures) {
     _pictures = pictures;
     _stack->addWidget(pictures);
 }
 
-void CColorAndPictureSetPage::setPictureCounts(int count, int /*changed*/) {
-    _pictureTab->setCount(count);
+void CColorAndPictureSetPage::showPictures(const std::vector<PictureGroup>& groups) {
+    _pictures->setGroups(groups);
+    _pictures->retell();
+    _pictureTab->setCount(_pictures->count());
 }
 
 int CColorAndPictureSetPage::tab() const {
@@ -134,15 +137,16 @@ int CColorAndPictureSetPage::tab() const {
 
 void CColorAndPictureSetPage::selectTab(int tab) {
     (tab == pictureTab ? _pictureTab : _colourTab)->setChecked(true);
-    _stack->setCurrentWidget(tab == pictureTab && _pictures ? _pictures : _colours);
+    _stack->setCurrentWidget(tab == pictureTab ? static_cast<QWidget*>(_pictures) : _colours);
     _foot->parentWidget()->setVisible(tab == colourTab);
     relabel();
     filter();
 }
 
 void CColorAndPictureSetPage::filter() {
-    _colours->setFilter(tab() == colourTab ? _search->text() : QString(), _changedOnly->isChecked());
-    emit filterChanged();
+    const bool isChanged = _changedOnly->isChecked();
+    _colours->setFilter(tab() == colourTab ? _search->text() : QString(), isChanged);
+    _pictures->setFilter(tab() == pictureTab ? _search->text() : QString(), isChanged);
 }
 
 void CColorAndPictureSetPage::clearFilter() {
@@ -153,14 +157,6 @@ void CColorAndPictureSetPage::clearFilter() {
 void CColorAndPictureSetPage::focusSearch() {
     _search->setFocus(Qt::ShortcutFocusReason);
     _search->selectAll();
-}
-
-QString CColorAndPictureSetPage::filterText() const {
-    return _search->text();
-}
-
-bool CColorAndPictureSetPage::isChangedOnly() const {
-    return _changedOnly->isChecked();
 }
 
 } // namespace zdt

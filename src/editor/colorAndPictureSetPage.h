@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/colourItems.h"
+#include "editor/pictureEntry.h"
 
 #include <QWidget>
 
@@ -15,6 +16,7 @@ namespace zdt {
 
 class CColorSetPage;
 class CPaintManagerUI;
+class ScreenPictures;
 class ScreenTab;
 class ThemeResource;
 class ZSearchField;
@@ -40,21 +42,16 @@ public:
     void refreshColour(const ThemeResource& theme, const ItemPath& path);
 
     [[nodiscard]] CColorSetPage& colours() { return *_colours; }
-    /// Puts the page of the pictures, with what stands below it, onto the second tab.
-    void setPictures(QWidget* pictures);
-    void setPictureCounts(int count, int changed);
+    /// What stands on the second tab; to be set once.
+    void setPictures(ScreenPictures* pictures);
+    [[nodiscard]] ScreenPictures* pictures() const { return _pictures; }
+    void showPictures(const std::vector<PictureGroup>& groups);
 
     [[nodiscard]] int tab() const;
     void selectTab(int tab);
     /// Takes the filter away.
     void clearFilter();
     void focusSearch();
-    [[nodiscard]] QString filterText() const;
-    [[nodiscard]] bool isChangedOnly() const;
-
-signals:
-    /// The filter is another one; the colours have it already.
-    void filterChanged();
 
 private:
     void relabel();
@@ -68,7 +65,7 @@ private:
     QPushButton* _changedOnly;
     QStackedWidget* _stack;
     CColorSetPage* _colours;
-    QWidget* _pictures = nullptr;
+    ScreenPictures* _pictures = nullptr;
     QLabel* _foot;
 };
 

@@ -27,8 +27,8 @@ PictureSet::PictureSet(PictureSource::MakeCell makeCell, int headSide, QWidget* 
     // program that a file comes from waits.
     const auto late = Qt::QueuedConnection;
     connect(
-        _source, &PictureSource::uploadClicked, this,
-        [this](int index) { ask(index, &PictureSet::uploadRequested); }, late);
+        _source, &PictureSource::uploadClicked, this, [this](int index) { ask(index, &PictureSet::uploadRequested); },
+        late);
     connect(
         _source, &PictureSource::resetClicked, this, [this](int index) { ask(index, &PictureSet::resetRequested); },
         late);

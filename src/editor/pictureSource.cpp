@@ -53,8 +53,7 @@ bool PictureSource::isChanged(const PictureEntry& entry) {
 }
 
 bool PictureSource::passes(const PictureEntry& entry) {
-    const bool hasText = _text.isEmpty() ||
-                         QString::fromStdString(entry.name).contains(_text, Qt::CaseInsensitive) ||
+    const bool hasText = _text.isEmpty() || QString::fromStdString(entry.name).contains(_text, Qt::CaseInsensitive) ||
                          entry.text.contains(_text, Qt::CaseInsensitive);
     return hasText && (!_changedOnly || isChanged(entry));
 }

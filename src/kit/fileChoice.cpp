@@ -24,6 +24,8 @@ QFileDialog::FileMode modeOf(FileRequest::Kind kind) {
         return QFileDialog::ExistingFile;
     case FileRequest::Kind::files:
         return QFileDialog::ExistingFiles;
+    case FileRequest::Kind::save:
+        return QFileDialog::AnyFile;
     }
     return QFileDialog::ExistingFile;
 }
@@ -59,6 +61,11 @@ QStringList askForFiles(QWidget* parent, const FileRequest& request) {
         button->setIcon({}); // The style's own, unlike any other of the window's.
     if (request.kind == FileRequest::Kind::folder)
         showFoldersAlone(dialog);
+    if (request.kind == FileRequest::Kind::save) {
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setLabelText(QFileDialog::Accept, Text("kFile_save"));
+        dialog.selectFile(request.name);
+    }
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
 }
 
@@ -76,15 +83,19 @@ QStringList FileChoice::answer(QWidget* parent, FileRequest request) {
 }
 
 QString FileChoice::folder(QWidget* parent, const QString& title) {
-    return answer(parent, {FileRequest::Kind::folder, title, {}, {}}).value(0);
+    return answer(parent, {FileRequest::Kind::folder, title, {}, {}, {}}).value(0);
 }
 
 QString FileChoice::file(QWidget* parent, const QString& title, const QString& filter) {
-    return answer(parent, {FileRequest::Kind::file, title, filter, {}}).value(0);
+    return answer(parent, {FileRequest::Kind::file, title, filter, {}, {}}).value(0);
 }
 
 QStringList FileChoice::files(QWidget* parent, const QString& title, const QString& filter) {
-    return answer(parent, {FileRequest::Kind::files, title, filter, {}});
+    return answer(parent, {FileRequest::Kind::files, title, filter, {}, {}});
+}
+
+QString FileChoice::save(QWidget* parent, const QString& title, const QString& filter, const QString& name) {
+    return answer(parent, {FileRequest::Kind::save, title, filter, {}, name}).value(0);
 }
 
 } // namespace zdt

@@ -2,6 +2,7 @@
 
 #include "kit/tokens.h"
 
+#include <QEventLoop>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -18,6 +19,8 @@ namespace {
 
 constexpr int dialogWidth = 400;
 constexpr int fullBar = 1000;
+/// Milliseconds before a work is felt to be long.
+constexpr int patience = 300;
 
 } // namespace
 
@@ -65,6 +68,15 @@ void ZProgressDialog::work(const Job& job) {
     QMetaObject::invokeMethod(this, &QDialog::accept, Qt::QueuedConnection);
 }
 
+bool ZProgressDialog::endsSoon() {
+    QEventLoop moment;
+    connect(this, &QDialog::accepted, &moment, &QEventLoop::quit);
+    QTimer::singleShot(patience, &moment, &QEventLoop::quit);
+    setResult(Rejected);
+    moment.exec(QEventLoop::ExcludeUserInputEvents);
+    return result() == Accepted;
+}
+
 bool ZProgressDialog::run(const Job& job) {
     _done = 0;
     _cancel = false;
@@ -74,7 +86,8 @@ bool ZProgressDialog::run(const Job& job) {
     connect(&ticks, &QTimer::timeout, this, &ZProgressDialog::showProgress);
     ticks.start(token::progressInterval);
     std::thread worker([&] { work(job); });
-    exec();
+    if (!_isLate || !endsSoon())
+        exec();
     // Whoever hides the dialog early, its job is waited for: it works on what its caller owns.
     worker.join();
     return _succeeded;

@@ -24,6 +24,8 @@ public:
 
     /// Offers a button that sets `cancelRequested`; the job asks for that and comes to an end by itself.
     void offerCancel(const QString& text);
+    /// Lets the dialog stay away from a job that ends within a moment. Nothing in the window can be reached meanwhile.
+    void showLate() { _isLate = true; }
     /// To be called by the job, from any thread.
     [[nodiscard]] bool cancelRequested() const { return _cancel; }
     /// The same for work that looks at it by itself.
@@ -40,11 +42,14 @@ public:
 private:
     void work(const Job& job);
     void showProgress();
+    /// Whether the job ends within the moment.
+    [[nodiscard]] bool endsSoon();
 
     QLabel* _share;
     QProgressBar* _bar;
     std::atomic<double> _done = 0;
     std::atomic<bool> _cancel = false;
+    bool _isLate = false;
     bool _succeeded = false;
     std::string _error;
 };

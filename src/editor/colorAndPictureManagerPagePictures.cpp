@@ -1,0 +1,198 @@
+#include "canvas/drawPictrue.h"
+#include "canvas/phoneView.h"
+#include "canvas/previewComposition.h"
+#include "editor/batchUpload.h"
+#include "editor/batchWords.h"
+#include "editor/codeWords.h"
+#include "editor/colorAndPictureManagerPage.h"
+#include "editor/colorAndPictureSetPage.h"
+#include "editor/pictureSet.h"
+#include "editor/pictureTable.h"
+#include "editor/pictureUpload.h"
+#include "editor/screenParts.h"
+#include "editor/screenPictures.h"
+#include "kit/localisation.h"
+#include "kit/messageBoxes.h"
+#include "kit/notificationNames.h"
+#include "kit/progressDialog.h"
+#include "kit/skinFolder.h"
+#include "model/returnCode.h"
+
+#include <QFileInfo>
+
+/// What the author does with the pictures of a screen.
+namespace zdt {
+
+namespace {
+
+constexpr const char* ninePatchPattern = " (*.9.png)";
+constexpr const char* pngPattern = " (*.png)";
+
+QString filterOf(const PictureEntry& entry) {
+    return Text("kBatch_filter") + (entry.isNinePatch() ? ninePatchPattern : pngPattern);
+}
+
+} // namespace
+
+void CColorAndPictureManagerPage::connectBatch() {
+    connect(_batch.get(), &BatchUpload::finished, this, [this] {
+        for (int index = 0; index < screenCount(); ++index)
+            fillPictures(index);
+        emit edited();
+    });
+    connect(_batch.get(), &BatchUpload::replaced, this, [this](const QString& name) {
+        for (int index = 0; index < screenCount(); ++index)
+            fillPictures(index);
+        pictureChanged(name.toStdString());
+    });
+}
+
+ScreenPictures* CColorAndPictureManagerPage::makePictures(const Screen& screen, CColorAndPictureSetPage& set) {
+    auto* pictures =
+        new ScreenPictures(QString::fromStdString(_module), QString::fromStdString(std::string(screen.name)),
+                           bench().notifications(), &set);
+    for (PictureSet* each : pictures->sets()) {
+        connect(each, &PictureSet::uploadRequested, this, &CColorAndPictureManagerPage::choosePicture);
+        connect(each, &PictureSet::saveRequested, this, &CColorAndPictureManagerPage::savePicture);
+        connect(each, &PictureSet::resetRequested, this, &CColorAndPictureManagerPage::resetEntry);
+        connect(each, &PictureSet::dropped, this, [this](const PictureEntry& entry, const QStringList& files) {
+            uploadPictureFile(entry, files.value(0));
+        });
+        connect(each, &PictureSet::batchDropped, _batch.get(), &BatchUpload::start);
+        connect(each, &PictureSet::hovered, this, [this, each](const QString& name) {
+            bench().notifications().SendNotify(each, notify::Notify_Pic_Hint, 0,
+                                               reinterpret_cast<std::intptr_t>(&name));
+        });
+        connect(each, &PictureSet::unhovered, this,
+                [this, each] { bench().notifications().SendNotify(each, notify::Notify_Pic_Hint_Reset); });
+        connect(each, &PictureSet::filterCleared, &set, &CColorAndPictureSetPage::clearFilter);
+    }
+    connect(pictures, &ScreenPictures::gridChosen, this, [this](bool isGrid) {
+        _isGrid = isGrid;
+        for (const View& view : _views) {
+            if (view.set)
+                view.set->pictures()->setGrid(isGrid);
+        }
+    });
+    pictures->setGrid(_isGrid);
+    return pictures;
+}
+
+void CColorAndPictureManagerPage::fillPictures(int index) {
+    const View& each = _views[static_cast<std::size_t>(index)];
+    if (!theme() || !each.set)
+        return;
+    std::vector<PictureGroup> groups = pictureGroupsOf(*theme(), _module, each.screen->name);
+    for (PictureGroup& group : groups) {
+        for (PictureEntry& entry : group.entries) {
+            const auto problem = _batch->problemFiles.find(entry.name);
+            entry.failed = problem != _batch->problemFiles.end();
+            entry.error = entry.failed ? refusalWords(problem->second) : QString();
+        }
+    }
+    each.set->showPictures(groups);
+}
+
+void CColorAndPictureManagerPage::hintPicture(const std::string& name) {
+    if (!hasScreen() || !view().set)
+        return;
+    const std::string key = keyOfPicture(name);
+    pointAt(key);
+    for (int index = 0; index < screenCount(); ++index) {
+        const auto& composition = _views[static_cast<std::size_t>(index)].composition;
+        _strip.setMarked(index, composition && !composition->partsOf(key).empty());
+    }
+}
+
+void CColorAndPictureManagerPage::clearPictureHint() {
+    pointAtNothing();
+    for (int index = 0; index < screenCount(); ++index)
+        _strip.setMarked(index, false);
+}
+
+std::string CColorAndPictureManagerPage::keyOfPicture(const std::string& name) {
+    std::vector<PictureGroup> groups = view().set->pictures()->sets().front()->groups();
+    const PictureEntry* entry = findEntry(groups, name);
+    return (entry ? entry->subModule : _module) + "/" + name;
+}
+
+void CColorAndPictureManagerPage::choosePicture(const PictureEntry& entry) {
+    const std::uint64_t serial = bench().themeSerial();
+    const QString path = pictureChoice.file(window(), Text("kBatch_choose_one"), filterOf(entry));
+    if (serial == bench().themeSerial() && !path.isEmpty())
+        uploadPictureFile(entry, path);
+}
+
+void CColorAndPictureManagerPage::uploadPictureFile(PictureEntry entry, const QString& path) {
+    if (!theme() || !QFileInfo::exists(path))
+        return;
+    const std::uint64_t serial = bench().themeSerial();
+    PreparedPicture prepared;
+    {
+        ZProgressDialog dialog(Text("kIcon_Simple_BatchUpload_Loading"), window());
+        dialog.showLate();
+        static_cast<void>(dialog.run([&](const Progress&) {
+            prepared = preparePicture(entry, path.toStdString(), _batch->compiler, workspaceFolder());
+            return true;
+        }));
+    }
+    if (!theme() || serial != bench().themeSerial())
+        return;
+    const PictureRefusal refusal = finishUpload(*theme(), entry, path.toStdString(), prepared, {});
+    if (!refusal.isNone())
+        return tellNote(window(), refusal.message, refusal.arguments);
+    _batch->problemFiles.erase(entry.name);
+    entry.failed = false;
+    entry.error.clear();
+    entryChanged(entry);
+}
+
+void CColorAndPictureManagerPage::resetEntry(PictureEntry entry) {
+    if (!theme())
+        return;
+    const std::uint64_t serial = bench().themeSerial();
+    if (!askYesNo(window(), "kList_reset_question", {QString::fromStdString(entry.name)}, true))
+        return;
+    if (!theme() || serial != bench().themeSerial())
+        return;
+    if (const int code = resetPicture(*theme(), entry, {}))
+        return tellNote(window(), codeKey(code));
+    _batch->problemFiles.erase(entry.name);
+    entry.failed = false;
+    entry.error.clear();
+    entryChanged(entry);
+}
+
+void CColorAndPictureManagerPage::savePicture(const PictureEntry& entry) {
+    const QString path =
+        pictureChoice.save(window(), Text("kPicture_save"), filterOf(entry), QString::fromStdString(entry.name));
+    if (path.isEmpty())
+        return;
+    const PictureRefusal refusal = savePictureAs(entry, path.toStdString());
+    if (!refusal.isNone())
+        tellNote(window(), refusal.message, refusal.arguments);
+}
+
+void CColorAndPictureManagerPage::entryChanged(const PictureEntry& entry) {
+    for (const View& view : _views) {
+        if (view.set)
+            view.set->pictures()->updateEntry(entry);
+    }
+    pictureChanged(entry.name);
+}
+
+void CColorAndPictureManagerPage::pictureChanged(const std::string& name) {
+    if (!theme() || !hasScreen())
+        return;
+    const std::string key = keyOfPicture(name);
+    for (View& each : _views) {
+        if (each.composition)
+            each.composition->setPicture(key, pictureOf(*theme(), key));
+    }
+    _phone->picture().refresh();
+    _stripTimer.start();
+    emit edited();
+    bench().notifications().SendNotify(this, notify::Notify_Error_List_refresh);
+}
+
+} // namespace zdt

@@ -1,0 +1,133 @@
+#include "editor/screenPictures.h"
+
+#include "editor/pictrueArrySetPage.h"
+#include "editor/pictureSetPage.h"
+#include "kit/icons.h"
+#include "kit/kitStyle.h"
+#include "kit/lateSignals.h"
+#include "kit/localisation.h"
+#include "kit/notificationNames.h"
+#include "kit/notifications.h"
+#include "kit/tokens.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace zdt {
+
+namespace {
+constexpr int footHeight = 64;
+constexpr int side = 16;
+} // namespace
+
+ScreenPictures::ScreenPictures(const QString& module, const QString& screen, CPaintManagerUI& notifications,
+                               QWidget* parent)
+    : QWidget(parent)
+    , _stack(new QStackedWidget(this))
+    , _list(new CPictureSetPage(this))
+    , _grid(new CPictrueArrySetPage(this))
+    , _many(makeButton(pictureControl::uploadMany))
+    , _how(makeButton(pictureControl::tellHow))
+    , _form(makeButton(module + "|" + screen + "|pictures as"))
+    , _hint(new QLabel(this)) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    for (PictureSet* set : sets()) {
+        set->setScreen(module, screen);
+        _stack->addWidget(set);
+    }
+    column->addWidget(_stack, 1);
+    auto* foot = new QFrame(this);
+    foot->setProperty("region", "foot");
+    foot->setFixedHeight(footHeight);
+    auto* row = new QHBoxLayout(foot);
+    row->setContentsMargins(side, 0, side / 2, 0);
+    row->setSpacing(side / 4);
+    row->addWidget(_many);
+    row->addSpacing(side / 4);
+    row->addWidget(_hint, 1);
+    row->addWidget(_how);
+    row->addWidget(_form);
+    column->addWidget(foot);
+
+    setButtonIcon(_many, Icon::FileUpload);
+    _hint->setProperty("type", "hint");
+    _hint->setWordWrap(true);
+    for (QPushButton* button : {_how, _form})
+        button->setProperty("kind", "quiet");
+    _how->setIcon(icon(Icon::HelpOutline, token::iconPlain));
+    for (QPushButton* button : {_many, _how})
+        connect(button, &QPushButton::clicked, this,
+                [&notifications, button] { notifications.SendNotify(button, notify::click); });
+    connect(_form, &QPushButton::clicked, this, [this] { emit gridChosen(_stack->currentWidget() == _list); });
+    retell();
+}
+
+ScreenPictures::~ScreenPictures() {
+    hearNoChildren(this);
+}
+
+QPushButton* ScreenPictures::makeButton(const QString& name) {
+    auto* button = new QPushButton(this);
+    button->setObjectName(name);
+    return button;
+}
+
+std::array<PictureSet*, 2> ScreenPictures::sets() const {
+    return {_list, _grid};
+}
+
+void ScreenPictures::setGroups(const std::vector<PictureGroup>& groups) {
+    for (PictureSet* set : sets())
+        set->setGroups(groups);
+}
+
+void ScreenPictures::updateEntry(const PictureEntry& entry) {
+    for (PictureSet* set : sets())
+        set->updateEntry(entry);
+}
+
+void ScreenPictures::setFilter(const QString& text, bool changedOnly) {
+    for (PictureSet* set : sets())
+        set->setFilter(text, changedOnly);
+}
+
+bool ScreenPictures::has(const std::string& name) const {
+    std::vector<PictureGroup> groups = _list->groups();
+    return findEntry(groups, name) != nullptr;
+}
+
+void ScreenPictures::showPicture(const QString& name) {
+    auto* set = static_cast<PictureSet*>(_stack->currentWidget());
+    set->showPicture(name);
+    set->setFocus(Qt::OtherFocusReason);
+}
+
+int ScreenPictures::count() const {
+    return _list->entryCount();
+}
+
+void ScreenPictures::setGrid(bool isGrid) {
+    _stack->setCurrentWidget(isGrid ? static_cast<QWidget*>(_grid) : _list);
+    retell();
+}
+
+void ScreenPictures::retell() {
+    const bool isList = _stack->currentWidget() == _list;
+    _many->setText(Text("kPictures_many"));
+    _many->setToolTip(Text("kPictures_many_tip"));
+    _hint->setText(Text("kPictures_many_hint"));
+    _how->setToolTip(Text("kPictures_many_how"));
+    _how->setAccessibleName(_how->toolTip());
+    _form->setToolTip(Text(isList ? "kPictures_as_grid" : "kPictures_as_list"));
+    _form->setAccessibleName(_form->toolTip());
+    _form->setIcon(icon(isList ? Icon::GridView : Icon::ListAlt, token::iconPlain));
+    for (PictureSet* set : sets())
+        set->retell();
+}
+
+} // namespace zdt
