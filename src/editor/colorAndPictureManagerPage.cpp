@@ -215,6 +215,8 @@ CColorAndPictureSetPage& CColorAndPictureManagerPage::setPage(int index) {
     if (!each.set) {
         each.set = new CColorAndPictureSetPage(nameOf(each), bench().notifications(), &_sets);
         each.set->setPictures(makePictures(*each.screen, *each.set));
+        each.set->setGrid(_isGrid);
+        connect(each.set, &CColorAndPictureSetPage::gridChosen, this, &CColorAndPictureManagerPage::showAsGrid);
         _sets.addWidget(each.set);
         connect(&each.set->colours(), &CColorSetPage::entered, this, [this, set = each.set](CColorItem* item) {
             if (const ColourRow* row = set->colours().rowOf(*item); row && view().composition)

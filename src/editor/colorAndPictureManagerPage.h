@@ -120,6 +120,7 @@ private:
     // What is done with pictures
     void connectBatch();
     ScreenPictures* makePictures(const Screen& screen, CColorAndPictureSetPage& set);
+    void showAsGrid(bool isGrid);
     void fillPictures(int index);
     void hintPicture(const std::string& name);
     void clearPictureHint();

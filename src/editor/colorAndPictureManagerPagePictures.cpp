@@ -47,6 +47,14 @@ void CColorAndPictureManagerPage::connectBatch() {
     });
 }
 
+void CColorAndPictureManagerPage::showAsGrid(bool isGrid) {
+    _isGrid = isGrid;
+    for (const View& view : _views) {
+        if (view.set)
+            view.set->setGrid(isGrid);
+    }
+}
+
 ScreenPictures* CColorAndPictureManagerPage::makePictures(const Screen& screen, CColorAndPictureSetPage& set) {
     auto* pictures =
         new ScreenPictures(QString::fromStdString(_module), QString::fromStdString(std::string(screen.name)),
@@ -67,14 +75,6 @@ ScreenPictures* CColorAndPictureManagerPage::makePictures(const Screen& screen, 
                 [this, each] { bench().notifications().SendNotify(each, notify::Notify_Pic_Hint_Reset); });
         connect(each, &PictureSet::filterCleared, &set, &CColorAndPictureSetPage::clearFilter);
     }
-    connect(pictures, &ScreenPictures::gridChosen, this, [this](bool isGrid) {
-        _isGrid = isGrid;
-        for (const View& view : _views) {
-            if (view.set)
-                view.set->pictures()->setGrid(isGrid);
-        }
-    });
-    pictures->setGrid(_isGrid);
     return pictures;
 }
 

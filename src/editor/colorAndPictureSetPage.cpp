@@ -5,11 +5,13 @@
 #include "editor/screenPictures.h"
 #include "editor/screenTab.h"
 #include "kit/exclusiveFocus.h"
+#include "kit/icons.h"
 #include "kit/lateSignals.h"
 #include "kit/localisation.h"
 #include "kit/notificationNames.h"
 #include "kit/notifications.h"
 #include "kit/searchField.h"
+#include "kit/tokens.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -49,6 +51,7 @@ CColorAndPictureSetPage::CColorAndPictureSetPage(const QString& name, CPaintMana
     , _pictureTab(new ScreenTab(this))
     , _search(new ZSearchField(this))
     , _changedOnly(new QPushButton(this))
+    , _form(new QPushButton(this))
     , _stack(new QStackedWidget(this))
     , _colours(new CColorSetPage(name, notifications, this))
     , _foot(new QLabel(this)) {
@@ -62,6 +65,7 @@ CColorAndPictureSetPage::CColorAndPictureSetPage(const QString& name, CPaintMana
     QHBoxLayout* find = addBar(*column, "sideHead", barHeight, side / 2);
     find->addWidget(_search, 1);
     find->addWidget(_changedOnly);
+    find->addWidget(_form);
     setProperty("region", "side");
     setAttribute(Qt::WA_StyledBackground);
     _stack->addWidget(_colours);
@@ -73,6 +77,10 @@ CColorAndPictureSetPage::CColorAndPictureSetPage(const QString& name, CPaintMana
     _pictureTab->setObjectName(name + "|picture|option");
     _search->setObjectName(name + "|find");
     _changedOnly->setObjectName(name + "|changed");
+    _form->setObjectName(name + "|pictures as");
+    _form->setProperty("kind", "quiet");
+    _form->hide();
+    connect(_form, &QPushButton::clicked, this, [this] { emit gridChosen(!_isGrid); });
     _colourTab->setChecked(true);
     tabToChosen({_colourTab, _pictureTab});
     for (ScreenTab* tab : {_colourTab, _pictureTab}) {
@@ -100,6 +108,9 @@ void CColorAndPictureSetPage::relabel() {
     _search->setClearTip(Text("kList_clear_search"));
     _changedOnly->setText(Text("kList_changed"));
     _changedOnly->setToolTip(Text("kList_changed_help"));
+    _form->setToolTip(Text(_isGrid ? "kPictures_as_list" : "kPictures_as_grid"));
+    _form->setAccessibleName(_form->toolTip());
+    _form->setIcon(icon(_isGrid ? Icon::ListAlt : Icon::GridView, token::iconPlain));
 }
 
 void CColorAndPictureSetPage::showColours(const ThemeResource& theme, const std::vector<ColourRow>& rows) {
@@ -139,6 +150,7 @@ void CColorAndPictureSetPage::selectTab(int tab) {
     (tab == pictureTab ? _pictureTab : _colourTab)->setChecked(true);
     _stack->setCurrentWidget(tab == pictureTab ? static_cast<QWidget*>(_pictures) : _colours);
     _foot->parentWidget()->setVisible(tab == colourTab);
+    _form->setVisible(tab == pictureTab);
     relabel();
     filter();
 }
@@ -157,6 +169,12 @@ void CColorAndPictureSetPage::clearFilter() {
 void CColorAndPictureSetPage::focusSearch() {
     _search->setFocus(Qt::ShortcutFocusReason);
     _search->selectAll();
+}
+
+void CColorAndPictureSetPage::setGrid(bool isGrid) {
+    _isGrid = isGrid;
+    _pictures->setGrid(isGrid);
+    relabel();
 }
 
 } // namespace zdt

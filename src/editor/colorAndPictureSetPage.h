@@ -52,6 +52,12 @@ public:
     /// Takes the filter away.
     void clearFilter();
     void focusSearch();
+    /// Shows the pictures as a grid or as a list.
+    void setGrid(bool isGrid);
+
+signals:
+    /// The author wants the other of the two.
+    void gridChosen(bool isGrid);
 
 private:
     void relabel();
@@ -63,6 +69,8 @@ private:
     ScreenTab* _pictureTab;
     ZSearchField* _search;
     QPushButton* _changedOnly;
+    QPushButton* _form;
+    bool _isGrid = false;
     QStackedWidget* _stack;
     CColorSetPage* _colours;
     ScreenPictures* _pictures = nullptr;

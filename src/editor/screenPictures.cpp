@@ -31,7 +31,6 @@ ScreenPictures::ScreenPictures(const QString& module, const QString& screen, CPa
     , _grid(new CPictrueArrySetPage(this))
     , _many(makeButton(pictureControl::uploadMany))
     , _how(makeButton(pictureControl::tellHow))
-    , _form(makeButton(module + "|" + screen + "|pictures as"))
     , _hint(new QLabel(this)) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -51,19 +50,16 @@ ScreenPictures::ScreenPictures(const QString& module, const QString& screen, CPa
     row->addSpacing(side / 4);
     row->addWidget(_hint, 1);
     row->addWidget(_how);
-    row->addWidget(_form);
     column->addWidget(foot);
 
     setButtonIcon(_many, Icon::FileUpload);
     _hint->setProperty("type", "hint");
     _hint->setWordWrap(true);
-    for (QPushButton* button : {_how, _form})
-        button->setProperty("kind", "quiet");
+    _how->setProperty("kind", "quiet");
     _how->setIcon(icon(Icon::HelpOutline, token::iconPlain));
     for (QPushButton* button : {_many, _how})
         connect(button, &QPushButton::clicked, this,
                 [&notifications, button] { notifications.SendNotify(button, notify::click); });
-    connect(_form, &QPushButton::clicked, this, [this] { emit gridChosen(_stack->currentWidget() == _list); });
     retell();
 }
 
@@ -113,19 +109,14 @@ int ScreenPictures::count() const {
 
 void ScreenPictures::setGrid(bool isGrid) {
     _stack->setCurrentWidget(isGrid ? static_cast<QWidget*>(_grid) : _list);
-    retell();
 }
 
 void ScreenPictures::retell() {
-    const bool isList = _stack->currentWidget() == _list;
     _many->setText(Text("kPictures_many"));
     _many->setToolTip(Text("kPictures_many_tip"));
     _hint->setText(Text("kPictures_many_hint"));
     _how->setToolTip(Text("kPictures_many_how"));
     _how->setAccessibleName(_how->toolTip());
-    _form->setToolTip(Text(isList ? "kPictures_as_grid" : "kPictures_as_list"));
-    _form->setAccessibleName(_form->toolTip());
-    _form->setIcon(icon(isList ? Icon::GridView : Icon::ListAlt, token::iconPlain));
     for (PictureSet* set : sets())
         set->retell();
 }

@@ -36,13 +36,10 @@ public:
     [[nodiscard]] bool has(const std::string& name) const;
     void showPicture(const QString& name);
     [[nodiscard]] int count() const;
+    /// Shows the grid or the list.
     void setGrid(bool isGrid);
     /// Says all again in the language of the moment.
     void retell();
-
-signals:
-    /// The author wants the other of the two.
-    void gridChosen(bool isGrid);
 
 private:
     QPushButton* makeButton(const QString& name);
@@ -52,7 +49,6 @@ private:
     CPictrueArrySetPage* _grid;
     QPushButton* _many;
     QPushButton* _how;
-    QPushButton* _form;
     QLabel* _hint;
 };
 
