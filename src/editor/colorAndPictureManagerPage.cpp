@@ -108,7 +108,11 @@ void CColorAndPictureManagerPage::connectBar() {
     connect(&_composing, &QTimer::timeout, this, &CColorAndPictureManagerPage::composeNext);
     _stripTimer.setSingleShot(true);
     _stripTimer.setInterval(stripDelay);
-    connect(&_stripTimer, &QTimer::timeout, &_stripView, [this] { emit _strip.changed(0, _strip.count() - 1); });
+    connect(&_stripTimer, &QTimer::timeout, this, [this] {
+        for (int index = 0; index < screenCount(); ++index)
+            _oldPreviews.insert(index);
+        refreshNext();
+    });
     _tryTimer.setSingleShot(true);
     _tryTimer.setInterval(token::progressInterval);
 }
@@ -208,6 +212,19 @@ void CColorAndPictureManagerPage::composeNext() {
         _composing.start(0);
         return;
     }
+}
+
+void CColorAndPictureManagerPage::refreshNext() {
+    if (_oldPreviews.empty() || !theme())
+        return;
+    const int index = *_oldPreviews.begin();
+    _oldPreviews.erase(_oldPreviews.begin());
+    if (index < screenCount() && _views[static_cast<std::size_t>(index)].composition) {
+        static_cast<void>(composition(index).frame());
+        emit _strip.changed(index, index);
+    }
+    // One after the other, so that keys aren't kept waiting.
+    QTimer::singleShot(0, this, &CColorAndPictureManagerPage::refreshNext);
 }
 
 CColorAndPictureSetPage& CColorAndPictureManagerPage::setPage(int index) {

@@ -13,6 +13,7 @@
 
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -88,6 +89,8 @@ private:
     void fillSet(int index);
     PreviewComposition& composition(int index);
     void composeNext();
+    /// Lets one of the strip's previews follow an edit.
+    void refreshNext();
     void showZoom();
     void placeLegend();
     void makeRoomForLegend();
@@ -156,6 +159,7 @@ private:
     std::string _pointedKey;         ///< The colour or picture that the pointer is on; empty for none.
     bool _isInspectingByKey = false; ///< While the key is held.
     QTimer _composing;               ///< The strip's previews, one after the other.
+    std::set<int> _oldPreviews;      ///< Of the strip.
     QTimer _stripTimer;              ///< They follow a row of quick edits when it ends.
     QTimer _tryTimer;                ///< Colours that are tried are written at most thirty times a second.
     QColor _tried;

@@ -148,9 +148,28 @@ TEST_F(MainFrameTest, TheListAndItsNavigationAgree) {
     auto& modules = find<QComboBox>("keyModule");
     modules.setFocus();
     QTest::keyClick(&modules, Qt::Key_Down);
-    EXPECT_TRUE(find<QAbstractButton>("nav_launcher").isChecked());
+    EXPECT_TRUE(find<QAbstractButton>("nav_all").isChecked()) << "the module's own row shows its screens";
+    QTest::keyClick(&modules, Qt::Key_End);
+    EXPECT_FALSE(find<QAbstractButton>("nav_all").isChecked());
     QTest::keyClick(&modules, Qt::Key_Home);
     EXPECT_TRUE(find<QAbstractButton>("nav_all").isChecked());
+}
+
+TEST_F(MainFrameTest, WhatAPageOfScreensChangesStandsInTheList) {
+    store.create("Aurora").reset();
+    window().openTheme("Aurora");
+    click("nav_contacts");
+    const QString row = "contacts|dial|highlight color|color|Color_Edit";
+    auto& field = find<QLineEdit>(row.toUtf8());
+    field.setFocus();
+    field.selectAll();
+    QTest::keyClicks(&field, "12a4c8");
+    QTest::keyClick(&window(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(find<QAbstractButton>("nav_all").isChecked());
+    auto& search = find<QLineEdit>("keySearch");
+    EXPECT_TRUE(search.hasFocus());
+    QTest::keyClicks(&search, "12a4c8");
+    EXPECT_GT(find<ZListView>("keyList").cellCount(), 0) << "values of all modules are looked at";
 }
 
 TEST_F(MainFrameTest, EveryProblemLeadsSomewhere) {
@@ -163,7 +182,9 @@ TEST_F(MainFrameTest, EveryProblemLeadsSomewhere) {
               {"unlock/amazing", "nav_unlock"},
               {"unlock/custom/file", "nav_unlock"},
               {"unlock", "nav_unlock"},
-              {"mms/text/message_pop_send_bg_color", "nav_mms"},
+              {"mms/text/message_pop_send_bg_color", "nav_all"},
+              {"contacts/image/jing.png", "nav_contacts"},
+              {"recorder/commonSetting/image/toolbar_bg.9.png", "nav_commonSetting"},
               {"phone/commonSetting/text/gone", "nav_commonSetting"},
               {"gone/x", "nav_all"},
               {"title", nullptr},

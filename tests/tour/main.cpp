@@ -1,5 +1,5 @@
-/// Walks through the real window with a hand's clicks and keys: makes a theme, changes a colour and a picture in it,
-/// mends a problem and exports it, and saves a screenshot of every page in both languages.
+/// Walks through the real window with a hand's clicks and keys: makes a theme, recolours all its screens, changes a key
+/// and a picture in it, mends a problem and exports it, and saves a screenshot of every page in both languages.
 ///
 ///     zdt_window_tour OUT [WIDTHxHEIGHT]
 ///
@@ -19,6 +19,7 @@
 #include <QPainter>
 #include <QStackedWidget>
 
+#include <array>
 #include <cstdio>
 #include <string>
 
@@ -65,15 +66,73 @@ void addMaking(tour::Script& script) {
     });
 }
 
+struct Recolour {
+    const char* screen; ///< Module and screen, joined by "|".
+    const char* item;
+    const char* digits;
+};
+
+/// A dark sea: the colours that make a theme, by the screens on which an author finds them.
+constexpr std::array recolours{
+    Recolour{"commonSetting|dial", "background color", "0E1B2E"},
+    Recolour{"commonSetting|dial", "highlight color", "2CD9A0"},
+    Recolour{"commonSetting|dial", "commonSetting/dialing settings/first level icon text", "EAF4FF"},
+    Recolour{"commonSetting|dial", "commonSetting/dialing settings/button box background", "1E3048"},
+    Recolour{"commonSetting|dial", "commonSetting/contact list/dividing line", "2A3B52"},
+    Recolour{"commonSetting|dial", "commonSetting/contact details/secondary icon text", "9FB2C8"},
+    Recolour{"launcher|launcher", "highlight color", "2CD9A0"},
+    Recolour{"contacts|dial", "background color", "16283F"},
+    Recolour{"contacts|dial", "separator color", "2A3B52"},
+    Recolour{"contacts|dial", "highlight color", "2CD9A0"},
+    Recolour{"contacts|dial", "contacts/contact list/first level icon text", "EAF4FF"},
+    Recolour{"mms|mms list", "background color", "16283F"},
+    Recolour{"mms|mms list", "accessory selected background color", "1E3048"},
+    Recolour{"mms|mms list", "highlight color", "2CD9A0"},
+    Recolour{"mms|mms list", "warning text", "FF6B6B"},
+    Recolour{"mms|mms list", "mms/MMS/first level icon text", "EAF4FF"},
+    Recolour{"mms|mms list", "mms/MMS/secondary icon text", "9FB2C8"},
+    Recolour{"mms|mms list", "mms/MMS/input box background color", "1E3048"},
+    Recolour{"systemui|drop down notification", "background color", "0E1B2E"},
+    Recolour{"systemui|drop down notification", "icon text color", "C6D6E8"},
+    Recolour{"systemui|drop down notification", "highlight color", "2CD9A0"},
+};
+
+struct Module {
+    const char* name;
+    int screens;
+};
+constexpr std::array modules{Module{"commonSetting", 4}, Module{"launcher", 3}, Module{"contacts", 4}, Module{"mms", 4},
+                             Module{"systemui", 3}};
+
+/// Every screen of every module.
+void addScreens(tour::Script& script, const QString& ending) {
+    for (const Module& module : modules) {
+        script.click(QString("nav_") + module.name);
+        for (int screen = 0; screen < module.screens; ++screen) {
+            script.key("screenStrip", screen == 0 ? Qt::Key_Home : Qt::Key_Down);
+            script.rest(200);
+            script.shot(QString("%1-%2-%3").arg(module.name).arg(screen).arg(ending));
+        }
+        script.key("screenStrip", Qt::Key_Home);
+    }
+}
+
+void addRecolouring(tour::Script& script) {
+    for (const Recolour& recolour : recolours) {
+        const QString screen = recolour.screen;
+        script.click("nav_" + screen.section('|', 0, 0));
+        script.type(screen + "|" + recolour.item + "|color|Color_Edit", recolour.digits);
+    }
+}
+
 void addChanging(tour::Script& script, const QString& out) {
-    script.click("nav_mms");
-    script.shot("messages-en");
-    script.type("keySearch", "message_pop_send_bg_color_theme_adapter");
-    script.key("keySearch", Qt::Key_Down);
-    script.key("keyList", Qt::Key_Return);
-    script.type("editHex", "B8F2E6");
-    script.shot("colour-en");
-    script.key("editHex", Qt::Key_Return);
+    script.click("nav_contacts");
+    script.click("contacts|dial|picture|option");
+    script.shot("pictures-en");
+    script.click("contacts|dial|pictures as");
+    script.shot("pictures-grid-en");
+    script.click("contacts|dial|pictures as");
+    script.click("contacts|dial|color|option");
     script.click("nav_icons");
     script.type("keySearch", "com.android.browser.png");
     script.key("keySearch", Qt::Key_Down);
@@ -83,6 +142,12 @@ void addChanging(tour::Script& script, const QString& out) {
     script.type("keySearch", "");
     script.click("nav_all");
     script.shot("keys-en");
+    script.type("keySearch", "message_pop_send_bg_color_theme_adapter");
+    script.key("keySearch", Qt::Key_Down);
+    script.key("keyList", Qt::Key_Return);
+    script.type("editHex", "1C6E5A");
+    script.shot("colour-en");
+    script.key("editHex", Qt::Key_Return);
 }
 
 void addMending(tour::Script& script, const QString& out) {
@@ -116,7 +181,8 @@ void addExport(tour::Script& script, const QString& out) {
 /// Everything once more in the other language.
 void addChinese(tour::Script& script) {
     script.click("ch_btn");
-    for (const char* name : {"commonSetting", "launcher", "mms", "icons", "unlock", "all"}) {
+    addScreens(script, "cn");
+    for (const char* name : {"icons", "unlock", "all"}) {
         script.click(QString("nav_") + name);
         script.shot(QString("%1-cn").arg(name));
     }
@@ -159,6 +225,8 @@ int main(int argc, char* argv[]) {
         frame.setGeometry(0, 0, size.value(0).toInt(), size.value(1).toInt());
         auto* script = new tour::Script(frame, out);
         addMaking(*script);
+        addRecolouring(*script);
+        addScreens(*script, "en");
         addChanging(*script, out);
         addMending(*script, out);
         addExport(*script, out);
