@@ -68,9 +68,9 @@ void BatchUpload::askFiles() {
 }
 
 void BatchUpload::tellHow() {
-    ZMessageBoxDlg::tell({ZMessageBoxDlg::Kind::Info, "kDialog_Title_Desc_Info", "kCommon_upload_picture_info", {},
-                          "kConfirm", {}},
-                         Text, _page.window());
+    ZMessageBoxDlg::tell(
+        {ZMessageBoxDlg::Kind::Info, "kDialog_Title_Desc_Info", "kCommon_upload_picture_info", {}, "kConfirm", {}},
+        Text, _page.window());
 }
 
 void BatchUpload::start(const QStringList& files) {
@@ -91,7 +91,8 @@ void BatchUpload::Notify(const Notification& message) {
     else if (message.wParam == storing)
         _storing.release();
     else if (!_isBusy && !_pendingFiles.isEmpty())
-        run();
+        // Others hear of it before it ends.
+        QMetaObject::invokeMethod(this, &BatchUpload::run, Qt::QueuedConnection);
 }
 
 void BatchUpload::workerEnded(std::size_t run) {
@@ -102,7 +103,7 @@ void BatchUpload::workerEnded(std::size_t run) {
 
 void BatchUpload::run() {
     const QStringList files = std::exchange(_pendingFiles, {});
-    if (!_bench.theme() || _theme != _bench.themeSerial())
+    if (_isBusy || files.isEmpty() || !_bench.theme() || _theme != _bench.themeSerial())
         return;
     const QPointer<BatchUpload> self(this);
     _isBusy = true;
@@ -202,8 +203,12 @@ void BatchUpload::showResult() {
         const auto words = [this](const QString& key) {
             return key == "kIcon_Simple_BatchUpload_Situation" ? situationText(_result) : Text(key);
         };
-        ZMessageBoxDlg::tell({ZMessageBoxDlg::Kind::Success, "kDialog_Title_Desc_Info",
-                              "kIcon_Simple_BatchUpload_Situation", {}, "kConfirm", {}},
+        ZMessageBoxDlg::tell({ZMessageBoxDlg::Kind::Success,
+                              "kDialog_Title_Desc_Info",
+                              "kIcon_Simple_BatchUpload_Situation",
+                              {},
+                              "kConfirm",
+                              {}},
                              words, _page.window());
         return;
     }

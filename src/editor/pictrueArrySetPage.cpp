@@ -141,9 +141,8 @@ QRect PictureGridView::cellPlace(int index) const {
 }
 
 int PictureGridView::firstBelow(int y) const {
-    const auto found =
-        std::partition_point(_layout.places.begin(), _layout.places.end(),
-                             [y](const QRect& place) { return place.top() + place.height() <= y; });
+    const auto found = std::partition_point(_layout.places.begin(), _layout.places.end(),
+                                            [y](const QRect& place) { return place.top() + place.height() <= y; });
     return static_cast<int>(found - _layout.places.begin());
 }
 

@@ -27,8 +27,8 @@ PictureSet::PictureSet(PictureSource::MakeCell makeCell, int headSide, QWidget* 
     // program that a file comes from waits.
     const auto late = Qt::QueuedConnection;
     connect(
-        _source, &PictureSource::uploadClicked, this,
-        [this](int index) { ask(index, &PictureSet::uploadRequested); }, late);
+        _source, &PictureSource::uploadClicked, this, [this](int index) { ask(index, &PictureSet::uploadRequested); },
+        late);
     connect(
         _source, &PictureSource::resetClicked, this, [this](int index) { ask(index, &PictureSet::resetRequested); },
         late);
@@ -42,6 +42,11 @@ PictureSet::PictureSet(PictureSource::MakeCell makeCell, int headSide, QWidget* 
     connect(_source, &PictureSource::reset, this, &PictureSet::showEmpty);
     connect(_source, &PictureSource::currentShown, this, &PictureSet::keepTabOrder);
     connect(_empty, &ZEmptyState::actionClicked, this, &PictureSet::filterCleared);
+}
+
+/// The cells tell that they are left when they go.
+PictureSet::~PictureSet() {
+    disconnect(_source, nullptr, this, nullptr);
 }
 
 void PictureSet::setView(CellView* view) {
