@@ -11,7 +11,7 @@ namespace zdt {
 
 namespace {
 
-constexpr std::array<const char*, 12> skinFiles{"skin.xml",   "start.xml",    "about.xml",    "newTheme.xml",
+constexpr std::array<const char*, 13> skinFiles{"skin.xml",   "start.xml",    "about.xml",    "newTheme.xml",
                                                 "export.xml", "problems.xml", "fullList.xml", "batchUpload.xml",
                                                 "style.qss",  "English.ini",  "Chinese.ini",  "Key.ini"};
 
