@@ -5,6 +5,7 @@
 #include "editor/batchCompile.h"
 #include "editor/batchWords.h"
 #include "editor/pictureTable.h"
+#include "editor/problemReasons.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -37,7 +38,8 @@ TEST(BatchPlanTest, StatesHaveTheirCodesAndWords) {
         refusal.file.name = "a.png";
         refusal.file.state = state;
         EXPECT_EQ(refusal.line(), std::string("mms/") + code + " a.png");
-        EXPECT_EQ(batchReasonNumber(batchProblemCode(code)), -std::stoi(code));
+        const std::vector<Sentence> reason = reasonOf(nullptr, {"mms/image/a.png", {}, batchProblemCode(code)});
+        EXPECT_EQ(reason.front().key, "kBatch_reason_" + std::to_string(-std::stoi(code)));
     }
     EXPECT_TRUE(codeTextOf(otherTheme).empty());
     EXPECT_EQ(batchReasonNumber(-22), 0);

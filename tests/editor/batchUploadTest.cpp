@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -146,6 +147,26 @@ TEST_F(BatchUploadTest, RefusedFilesAreListedWithAWayOut) {
     ASSERT_EQ(listener.problems.size(), 1U);
     EXPECT_EQ(listener.problems[0].key, "launcher/image/nobody.png");
     EXPECT_EQ(batchReasonNumber(listener.problems[0].code), 1);
+}
+
+TEST_F(BatchUploadTest, FileWithoutARowIsGivenOne) {
+    const QString mine = file("mine.png", plainPng(192, 192));
+    run({mine}, [&](QDialog& box) {
+        QTimer::singleShot(100, [] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_TRUE(menu);
+            QTest::keyClick(menu, Qt::Key_Down);
+            QTest::keyClick(menu, Qt::Key_Right);
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+        });
+        auto& button = FindControl<QPushButton>(&box, "refusedAnother");
+        EXPECT_EQ(button.text(), "Choose place");
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QTest::qWait(300);
+        box.accept();
+    });
+    EXPECT_TRUE(sameFiles(entry("ic_allapps_pressed.png").file(), mine.toStdString()));
 }
 
 TEST_F(BatchUploadTest, NamesThatMatchNoRowAreAllListed) {
