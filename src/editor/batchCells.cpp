@@ -115,8 +115,13 @@ void RefusedPictures::show(const std::vector<BatchRefusal>& refused, const std::
 
 QWidget* RefusedPictures::makeCell(int, QWidget* parent) {
     auto* cell = new RefusedCell(parent);
-    connect(cell->another, &QPushButton::clicked, this,
-            [this, cell] { emit anotherAsked(cell->property("row").toInt()); });
+    connect(cell->another, &QPushButton::clicked, this, [this, cell] {
+        const int row = cell->property("row").toInt();
+        if (lacksPlace(row))
+            emit placeAsked(row, cell->another->mapToGlobal(QPoint(0, cell->another->height())));
+        else
+            emit anotherAsked(row);
+    });
     return cell;
 }
 
@@ -129,9 +134,14 @@ void RefusedPictures::fillCell(QWidget* widget, int index) {
     cell->name->setToolTip(QString::fromStdString(_refused[at].file.path).toHtmlEscaped());
     cell->words->setText(_words[at]);
     cell->words->setToolTip(refusalReason(_refused[at]).toHtmlEscaped());
-    cell->another->setText(Text("kBatch_another"));
-    cell->another->setToolTip(Text("kBatch_another_tip"));
-    cell->another->setVisible(_refused[at].file.isClaimed());
+    const bool isPlace = lacksPlace(index);
+    cell->another->setText(Text(isPlace ? "kBatch_place" : "kBatch_another"));
+    cell->another->setToolTip(Text(isPlace ? "kBatch_place_tip" : "kBatch_another_tip"));
+    cell->another->setVisible(isPlace || _refused[at].file.isClaimed());
+}
+
+bool RefusedPictures::lacksPlace(int index) const {
+    return _refused[static_cast<std::size_t>(index)].code() == unclaimedCode;
 }
 
 /// Tab goes to the button of the current row.

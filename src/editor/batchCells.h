@@ -46,6 +46,8 @@ public:
 
     /// @param words the reasons in a few words, one for each
     void show(const std::vector<BatchRefusal>& refused, const std::vector<QString>& words);
+    /// Whether a row may be chosen for the file.
+    [[nodiscard]] bool lacksPlace(int index) const;
 
     [[nodiscard]] int count() const override { return static_cast<int>(_refused.size()); }
     [[nodiscard]] QWidget* makeCell(int kind, QWidget* parent) override;
@@ -56,6 +58,7 @@ public:
 
 signals:
     void anotherAsked(int index);
+    void placeAsked(int index, const QPoint& position);
 
 private:
     std::vector<BatchRefusal> _refused;

@@ -50,9 +50,10 @@ BatchDialog::BatchDialog(Workbench& bench, const BatchResult& result, QWidget* p
     auto& refusedView = FindControl<ZListView>(this, "batchRefusedView");
     refusedView.setSource(_refused);
     connect(_refused, &RefusedPictures::anotherAsked, this, &BatchDialog::anotherAsked, Qt::QueuedConnection);
-    connect(&refusedView, &ZListView::activated, this, [this](int index) {
-        if (_result.refused[static_cast<std::size_t>(index)].file.isClaimed())
-            emit anotherAsked(index);
+    connect(_refused, &RefusedPictures::placeAsked, this, &BatchDialog::placeAsked, Qt::QueuedConnection);
+    connect(&refusedView, &ZListView::activated, this, [this, &refusedView](int index) {
+        if (auto* button = refusedView.cellAt(index)->findChild<QPushButton*>("refusedAnother"))
+            button->click();
     });
     makeButtons();
     std::vector<QString> words;

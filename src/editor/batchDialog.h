@@ -33,6 +33,9 @@ public:
 signals:
     /// Another file is wanted for the row of a refused one.
     void anotherAsked(int index);
+    /// A row is to be chosen for a file that no row claimed.
+    /// @param position of the menu, global
+    void placeAsked(int index, const QPoint& position);
 
 private:
     void makeButtons();

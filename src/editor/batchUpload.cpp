@@ -4,6 +4,7 @@
 #include "editor/batchDialog.h"
 #include "editor/batchWords.h"
 #include "editor/pictureTable.h"
+#include "kit/layoutError.h"
 #include "kit/localisation.h"
 #include "kit/messageBoxes.h"
 #include "kit/notificationNames.h"
@@ -13,6 +14,7 @@
 #include "support/fileComparison.h"
 #include "support/files.h"
 
+#include <QMenu>
 #include <QTemporaryDir>
 
 #include <utility>
@@ -91,7 +93,8 @@ void BatchUpload::Notify(const Notification& message) {
     else if (message.wParam == storing)
         _storing.release();
     else if (!_isBusy && !_pendingFiles.isEmpty())
-        run();
+        // Others hear of it before it ends.
+        QMetaObject::invokeMethod(this, &BatchUpload::run, Qt::QueuedConnection);
 }
 
 void BatchUpload::workerEnded(std::size_t run) {
@@ -102,7 +105,7 @@ void BatchUpload::workerEnded(std::size_t run) {
 
 void BatchUpload::run() {
     const QStringList files = std::exchange(_pendingFiles, {});
-    if (!_bench.theme() || _theme != _bench.themeSerial())
+    if (_isBusy || files.isEmpty() || !_bench.theme() || _theme != _bench.themeSerial())
         return;
     const QPointer<BatchUpload> self(this);
     _isBusy = true;
@@ -211,10 +214,17 @@ void BatchUpload::showResult() {
                              words, _page.window());
         return;
     }
-    BatchDialog dialog(_bench, _result, _page.window());
-    connect(&dialog, &BatchDialog::anotherAsked, this, [&](int index) { chooseAnother(dialog, index); });
-    const int answer = dialog.exec();
-    _result = dialog.result();
+    int answer = BatchDialog::done;
+    try {
+        BatchDialog dialog(_bench, _result, _page.window());
+        connect(&dialog, &BatchDialog::anotherAsked, this, [&](int index) { chooseAnother(dialog, index); });
+        connect(&dialog, &BatchDialog::placeAsked, this,
+                [&](int index, const QPoint& position) { choosePlace(dialog, index, position); });
+        answer = dialog.exec();
+        _result = dialog.result();
+    } catch (const LayoutError& error) {
+        tellNote(_page.window(), "kWindow_layout_damaged", {QString::fromUtf8(error.what())});
+    }
     if (answer == BatchDialog::showProblems)
         listProblems();
     else if (answer == BatchDialog::uploadMore)
@@ -254,17 +264,39 @@ void BatchUpload::chooseAnother(BatchDialog& dialog, int index) {
     const QString path = pictureChoice.file(&dialog, Text("kBatch_choose_one"), Text("kBatch_filter") + pattern);
     if (path.isEmpty())
         return;
-    const bool wasOwn = isOwnPicture(*entry);
-    const PictureRefusal refusal = replaceOne(*entry, path.toStdString());
+    replaceRefused(dialog, index, *entry, path.toStdString());
+}
+
+void BatchUpload::choosePlace(BatchDialog& dialog, int index, const QPoint& position) {
+    const std::string path = dialog.result().refused[static_cast<std::size_t>(index)].file.path;
+    QMenu menu(&dialog);
+    for (PictureGroup& group : _groups) {
+        QMenu* places = nullptr;
+        for (PictureEntry& entry : group.entries) {
+            if (entry.isNinePatch() != path.ends_with(".9.png"))
+                continue;
+            places = places ? places : menu.addMenu(group.title);
+            places->addAction(QString::fromStdString(entry.name))->setData(QString::fromStdString(entry.name));
+        }
+    }
+    const QAction* chosen = menu.exec(position);
+    PictureEntry* entry = chosen ? findEntry(_groups, chosen->data().toString().toStdString()) : nullptr;
+    if (entry)
+        replaceRefused(dialog, index, *entry, path);
+}
+
+void BatchUpload::replaceRefused(BatchDialog& dialog, int index, PictureEntry& entry, const std::string& path) {
+    const bool wasOwn = isOwnPicture(entry);
+    const PictureRefusal refusal = replaceOne(entry, path);
     if (!refusal.isNone()) {
         QString words = Text(refusal.message);
         for (const QString& argument : refusal.arguments)
             words = words.arg(argument);
         return dialog.setReason(index, words);
     }
-    problemFiles.erase(file.key);
-    dialog.setStored(index, {file.key, path.toStdString(), wasOwn});
-    emit replaced(QString::fromStdString(file.key));
+    problemFiles.erase(entry.name);
+    dialog.setStored(index, {entry.name, path, wasOwn});
+    emit replaced(QString::fromStdString(entry.name));
 }
 
 void applyBatch(const ThemeResource& theme, const BatchResult& result, std::vector<PictureGroup>& groups) {

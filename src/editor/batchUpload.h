@@ -72,6 +72,8 @@ private:
     void showResult();
     void listProblems();
     void chooseAnother(BatchDialog& dialog, int index);
+    void choosePlace(BatchDialog& dialog, int index, const QPoint& position);
+    void replaceRefused(BatchDialog& dialog, int index, PictureEntry& entry, const std::string& path);
     [[nodiscard]] PictureRefusal replaceOne(PictureEntry& entry, const std::string& path);
 
     Workbench& _bench;

@@ -103,9 +103,6 @@ void CPictureItem::makeControls() {
     _reset->setProperty("kind", "quiet");
     _reset->setProperty("scale", "small");
     _reset->setFixedSize(buttonHeight, buttonHeight);
-    QSizePolicy kept = _reset->sizePolicy();
-    kept.setRetainSizeWhenHidden(true);
-    _reset->setSizePolicy(kept);
     setButtonIcon(_reset, Icon::SettingsBackupRestore, 16);
     _upload->setProperty("scale", "small");
     _upload->setFixedSize(buttonWidth, buttonHeight);
@@ -165,6 +162,9 @@ void CPictureItem::setState(const CellState& state) {
 }
 
 void CPictureItem::showReset() {
+    QSizePolicy kept = _reset->sizePolicy();
+    kept.setRetainSizeWhenHidden(_isChanged);
+    _reset->setSizePolicy(kept);
     _reset->setVisible(_isChanged && (_state.hovered || _state.current));
 }
 

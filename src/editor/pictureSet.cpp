@@ -44,6 +44,11 @@ PictureSet::PictureSet(PictureSource::MakeCell makeCell, int headSide, QWidget* 
     connect(_empty, &ZEmptyState::actionClicked, this, &PictureSet::filterCleared);
 }
 
+/// The cells tell that they are left when they go.
+PictureSet::~PictureSet() {
+    disconnect(_source, nullptr, this, nullptr);
+}
+
 void PictureSet::setView(CellView* view) {
     _view = view;
     setFocusProxy(view);

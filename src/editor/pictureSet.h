@@ -20,6 +20,8 @@ class PictureSet : public QWidget {
     Q_OBJECT
 
 public:
+    ~PictureSet() override;
+
     /// Whose controls are named by them: "<module>|<preview>|<key>|picture|button".
     void setScreen(const QString& module, const QString& preview) { _source->setScreen(module, preview); }
     void setGroups(std::vector<PictureGroup> groups) { _source->setGroups(std::move(groups)); }

@@ -159,18 +159,32 @@ void PictureSource::showState(QWidget* cell, int index, const CellState& state) 
     if (state.current)
         emit currentShown(static_cast<PictureCell*>(cell));
     const QString key = QString::fromStdString(entry->name);
-    const bool isOn = state.hovered || state.ringed;
-    if (isOn && key != _hovered) {
-        _hovered = key;
+    const auto follow = [&key](QString& which, bool isOn) {
+        if (isOn)
+            which = key;
+        else if (which == key)
+            which.clear();
+    };
+    follow(_pointed, state.hovered);
+    follow(_ringed, state.ringed);
+    tellHover();
+}
+
+/// The pointer wins over the keys.
+void PictureSource::tellHover() {
+    const QString& key = _pointed.isEmpty() ? _ringed : _pointed;
+    if (std::exchange(_told, key) == key)
+        return;
+    if (key.isEmpty())
+        emit unhovered();
+    else
         emit hovered(key);
-    } else if (!isOn && key == _hovered) {
-        clearHover();
-    }
 }
 
 void PictureSource::clearHover() {
-    if (!std::exchange(_hovered, QString()).isEmpty())
-        emit unhovered();
+    _pointed.clear();
+    _ringed.clear();
+    tellHover();
 }
 
 QString PictureSource::accessibleName(int index) const {

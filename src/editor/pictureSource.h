@@ -82,6 +82,7 @@ private:
     [[nodiscard]] bool passes(const PictureEntry& entry);
     void choose();
     void showFiles(const QStringList& files);
+    void tellHover();
 
     MakeCell _makeCell;
     int _headSide;
@@ -91,7 +92,9 @@ private:
     std::vector<Line> _lines;
     QString _text;
     bool _changedOnly = false;
-    QString _hovered;
+    QString _pointed; ///< The key of the picture under the pointer.
+    QString _ringed;  ///< Of the one that the keys stand on.
+    QString _told;    ///< Of the one of which was told last.
     FileChanges _changes;
     Thumbnails _thumbnails;
 };

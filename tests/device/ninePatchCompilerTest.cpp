@@ -48,8 +48,7 @@ TEST_F(NinePatchCompilerTest, BadInputsAreToldApartAndLeaveNothing) {
         const char* reason;
     };
     const Case cases[] = {
-        {"border.9.png", plainPng(12, 12), refused,
-         "Must have one-pixel frame that is either transparent or white."},
+        {"border.9.png", plainPng(12, 12), refused, "Must have one-pixel frame that is either transparent or white."},
         {"marks.9.png", plainPng(12, 12, Qt::transparent), refused,
          "No marked region found along edge. Found along top edge."},
         {"text.9.png", "no picture at all", refused, nullptr},

@@ -50,8 +50,8 @@ TEST(ProcessTest, EndsAreToldApart) {
 
 TEST(ProcessTest, FailedStartIsNoFailedRun) {
     const TemporaryFolder folder;
-    for (const std::string& program : {std::string("/nonexistent/tool"), folder.write("plain", "no program"),
-                                       folder.path(), std::string()}) {
+    for (const std::string& program :
+         {std::string("/nonexistent/tool"), folder.write("plain", "no program"), folder.path(), std::string()}) {
         ProcessRequest request;
         request.program = program;
         const ProcessResult result = runProgram(request);

@@ -5,6 +5,7 @@
 #include "editor/batchCompile.h"
 #include "editor/batchWords.h"
 #include "editor/pictureTable.h"
+#include "editor/problemReasons.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -27,16 +28,18 @@ TEST(BatchPlanTest, WorkersHaveFiveFilesEach) {
 
 TEST(BatchPlanTest, StatesHaveTheirCodesAndWords) {
     LoadKeys();
-    const std::pair<BatchState, const char*> cases[] = {
-        {tooLarge, "-16"},       {doubled, "-4"},        {toolFailed, "-40"}, {compileRefused, "-39"},
-        {wrongSize, "-22"},      {wrongPatchKind, "-19"}, {nameNotAllowed, "-5"}, {wrongType, "-23"},
-        {unreadable, "-41"},     {fine, "-1"}};
+    const std::pair<BatchState, const char*> cases[] = {{tooLarge, "-16"},      {doubled, "-4"},
+                                                        {toolFailed, "-40"},    {compileRefused, "-39"},
+                                                        {wrongSize, "-22"},     {wrongPatchKind, "-19"},
+                                                        {nameNotAllowed, "-5"}, {wrongType, "-23"},
+                                                        {unreadable, "-41"},    {fine, "-1"}};
     for (const auto& [state, code] : cases) {
         BatchRefusal refusal{"mms", {}};
         refusal.file.name = "a.png";
         refusal.file.state = state;
         EXPECT_EQ(refusal.line(), std::string("mms/") + code + " a.png");
-        EXPECT_EQ(batchReasonNumber(batchProblemCode(code)), -std::stoi(code));
+        const std::vector<Sentence> reason = reasonOf(nullptr, {"mms/image/a.png", {}, batchProblemCode(code)});
+        EXPECT_EQ(reason.front().key, "kBatch_reason_" + std::to_string(-std::stoi(code)));
     }
     EXPECT_TRUE(codeTextOf(otherTheme).empty());
     EXPECT_EQ(batchReasonNumber(-22), 0);
@@ -112,10 +115,9 @@ TEST_F(BatchFilesTest, FoldersBringTheirPictures) {
 }
 
 TEST_F(BatchFilesTest, NinePatchesAreCompiledAndRefusedOneByOne) {
-    const std::vector<std::string> files{given.write("folder_open_shadow.9.png", rawNinePatch()),
-                                         given.write("ic_mark.9.png", plainPng(12, 12)),
-                                         given.write("ic_allapps.png", plainPng(192, 192)),
-                                         given.write("unknown.9.png", rawNinePatch())};
+    const std::vector<std::string> files{
+        given.write("folder_open_shadow.9.png", rawNinePatch()), given.write("ic_mark.9.png", plainPng(12, 12)),
+        given.write("ic_allapps.png", plainPng(192, 192)), given.write("unknown.9.png", rawNinePatch())};
     std::vector<BatchFile> planned = plan(files);
     const std::vector<std::size_t> patches = ninePatchesOf(planned);
     const NinePatchCompiler compiler(std::string(ZDT_TOOLS_DIR) + "aapt");
@@ -139,8 +141,8 @@ TEST_F(BatchFilesTest, ToolThatHangsOrIsMissingDoesNotHoldABatch) {
          {NinePatchCompiler(script("sleep 60"), 100ms), NinePatchCompiler(given.path("none"))}) {
         std::vector<BatchFile> files = planned;
         EXPECT_TRUE(compileBatch(files, patches, {compiler, given.path("out/"), nullptr, {}}));
-        EXPECT_TRUE(std::all_of(files.begin(), files.end(),
-                                [](const BatchFile& file) { return file.state == toolFailed; }));
+        EXPECT_TRUE(
+            std::all_of(files.begin(), files.end(), [](const BatchFile& file) { return file.state == toolFailed; }));
     }
     const std::atomic<bool> cancel = true;
     const NinePatchCompiler slow(script("sleep 60"));

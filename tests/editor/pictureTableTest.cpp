@@ -1,7 +1,7 @@
 #include "editor/pictureTable.h"
-#include "editor/sizeHint.h"
 
 #include "common/pageFixture.h"
+#include "editor/sizeHint.h"
 #include "modules/tables/pictures.h"
 
 #include <gtest/gtest.h>
