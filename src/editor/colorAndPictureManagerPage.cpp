@@ -27,6 +27,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <array>
 
 /// The page and what it shows; what its controls do stands in colorAndPictureManagerPageChanges.cpp.
 namespace zdt {
@@ -37,6 +38,8 @@ constexpr int hintIcon = 16;
 constexpr int stripEnd = 16;
 constexpr int stripSide = 8;
 constexpr int legendGap = 16;
+/// The modules of whose screens a package shows previews.
+constexpr std::array<const char*, 3> captured{"contacts", "mms", "systemui"};
 /// Milliseconds.
 constexpr int stripDelay = 120;
 
@@ -101,9 +104,9 @@ void CColorAndPictureManagerPage::connectBar() {
     connect(&_zoomFit, &QPushButton::clicked, _phone, &ZPhoneView::zoomToFit);
     connect(_phone, &ZPhoneView::zoomChanged, this, &CColorAndPictureManagerPage::showZoom);
     connect(&_capture, &QPushButton::clicked, this, [this] {
-        // 0: of the composed preview, not of the phone.
-        bench().notifications().SendNotify(&_capture, notify::Notify_ScreenCapture_Msg, 0, _screen);
+        bench().notifications().SendNotify(&_capture, notify::Notify_ScreenCapture_Msg);
     });
+    _capture.setVisible(std::find(captured.begin(), captured.end(), _module) != captured.end());
     _composing.setSingleShot(true);
     connect(&_composing, &QTimer::timeout, this, &CColorAndPictureManagerPage::composeNext);
     _stripTimer.setSingleShot(true);

@@ -133,6 +133,8 @@ private:
     void uploadPictureFile(PictureEntry entry, const QString& path);
     void resetEntry(PictureEntry entry);
     void savePicture(const PictureEntry& entry);
+    /// Makes the composed screen the theme's preview picture of the module.
+    void captureScreen();
     void entryChanged(const PictureEntry& entry);
     /// Shows on all previews what a picture is now, and tells of the change.
     void pictureChanged(const std::string& name);

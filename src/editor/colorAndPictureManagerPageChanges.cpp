@@ -29,6 +29,8 @@ namespace {
 
 /// Module, screen and two more at least.
 constexpr qsizetype fewestTokens = 4;
+/// A capture of the composed preview, not of the phone.
+constexpr std::intptr_t ofPreview = 0;
 constexpr const char* colourToken = "color";
 constexpr const char* previewToken = "preview";
 constexpr const char* optionToken = "option";
@@ -82,6 +84,8 @@ void CColorAndPictureManagerPage::Notify(const Notification& message) {
             pointAtNothing();
         return;
     }
+    if (message.name == notify::Notify_ScreenCapture_Msg && message.wParam == ofPreview)
+        return captureScreen();
     if (message.name == notify::Notify_Pic_Hint)
         return hintPicture(reinterpret_cast<const QString*>(message.lParam)->toStdString());
     if (message.name == notify::Notify_Pic_Hint_Reset)

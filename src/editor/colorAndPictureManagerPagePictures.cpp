@@ -9,9 +9,11 @@
 #include "editor/pictureSet.h"
 #include "editor/pictureTable.h"
 #include "editor/pictureUpload.h"
+#include "editor/previewCapture.h"
 #include "editor/screenParts.h"
 #include "editor/screenPictures.h"
 #include "kit/localisation.h"
+#include "kit/messageBoxDlg.h"
 #include "kit/messageBoxes.h"
 #include "kit/notificationNames.h"
 #include "kit/progressDialog.h"
@@ -191,6 +193,19 @@ void CColorAndPictureManagerPage::pictureChanged(const std::string& name) {
     }
     _phone->picture().refresh();
     _stripTimer.start();
+    emit edited();
+    bench().notifications().SendNotify(this, notify::Notify_Error_List_refresh);
+}
+
+void CColorAndPictureManagerPage::captureScreen() {
+    if (!theme() || !hasScreen())
+        return;
+    const PreviewCapture capture =
+        capturePreview(*theme(), workspaceFolder(), _module, _screen, composition(_screen).frame());
+    if (!capture.message.isEmpty())
+        ZMessageBoxDlg::tell({capture.stored ? ZMessageBoxDlg::Kind::Success : ZMessageBoxDlg::Kind::Warning,
+                              "kDialog_Title_Desc_Info", capture.message, {}, "kConfirm", {}},
+                             Text, window());
     emit edited();
     bench().notifications().SendNotify(this, notify::Notify_Error_List_refresh);
 }
