@@ -26,9 +26,6 @@ constexpr std::array skinFiles{
     "Chinese.ini",
     "Key.ini",
 };
-constexpr std::array<const char*, 13> skinFiles{"skin.xml",   "start.xml",    "about.xml",    "newTheme.xml",
-                                                "export.xml", "problems.xml", "fullList.xml", "batchUpload.xml",
-                                                "style.qss",  "English.ini",  "Chinese.ini",  "Key.ini"};
 
 /// What a file that nothing else can tell to be whole ends with; a layout is told when it is read.
 QByteArray endMark(const QString& path) {
