@@ -76,6 +76,8 @@ void BatchUpload::start(const QStringList& files) {
 }
 
 void BatchUpload::Notify(const Notification& message) {
+    if (message.name == notify::Reload_history_themes)
+        problemFiles.clear();
     if (message.sender != this)
         return;
     if (message.name == notify::Notify_Drag_File_Simple_9PNG)
@@ -227,6 +229,15 @@ void BatchUpload::listProblems() {
     const std::vector<Problem> problems = problemsOf(_result, _groups);
     _bench.notifications().SendNotify(this, notify::Notify_Error_List_Msg, 0,
                                       reinterpret_cast<std::intptr_t>(&problems));
+}
+
+void BatchUpload::markProblems(std::vector<PictureGroup>& groups) const {
+    for (const auto& [key, refusal] : problemFiles) {
+        if (PictureEntry* entry = findEntry(groups, key)) {
+            entry->failed = true;
+            entry->error = refusalWords(refusal);
+        }
+    }
 }
 
 void applyBatch(const ThemeResource& theme, const BatchResult& result, std::vector<PictureGroup>& groups) {
