@@ -15,7 +15,7 @@ namespace {
 
 constexpr int refusedThumbnail = 40;
 constexpr int padding = 12;
-constexpr int buttonWidth = 112;
+constexpr int buttonWidth = 120;
 
 /// Shows the thumbnails that were made in all cells.
 void followThumbnails(Thumbnails& thumbnails, CellSource* source) {

@@ -11,10 +11,8 @@
 #include "kit/progressDialog.h"
 #include "kit/skinFolder.h"
 #include "kit/workbench.h"
-#include "support/fileComparison.h"
 #include "support/files.h"
 
-#include <QMenu>
 #include <QTemporaryDir>
 
 #include <utility>
@@ -29,17 +27,11 @@ constexpr double compilingShare = 0.7;
 constexpr int cancelStep = 50;
 /// A batch's list of files, as the chooser names it.
 constexpr const char* pngPattern = " (*.png)";
-constexpr const char* ninePatchPattern = " (*.9.png)";
 
 std::string compileFolder() {
     const std::string folder = workspaceFolder() + "Temp9Png/";
     static_cast<void>(makePath(folder));
     return folder;
-}
-
-bool isOwnPicture(const PictureEntry& entry) {
-    const KeyPlace& shown = entry.places.front();
-    return !sameFiles(shown.value, shown.fallback);
 }
 
 } // namespace
@@ -84,6 +76,8 @@ void BatchUpload::start(const QStringList& files) {
 }
 
 void BatchUpload::Notify(const Notification& message) {
+    if (message.name == notify::Reload_history_themes)
+        problemFiles.clear();
     if (message.sender != this)
         return;
     if (message.name == notify::Notify_Drag_File_Simple_9PNG)
@@ -175,7 +169,7 @@ void BatchUpload::storeOne(Work& batch, BatchFile& file) {
         file.state = BatchState::unreadable;
         return;
     }
-    const bool wasOwn = isOwnPicture(*entry);
+    const bool wasOwn = hasOwnPicture(*entry);
     file.state = stateOfCode(storePicture(*_bench.theme(), *entry, file.file, pictureChanged).code());
     if (file.state == BatchState::fine)
         batch.matched.push_back({file.key, file.path, wasOwn});
@@ -237,66 +231,13 @@ void BatchUpload::listProblems() {
                                       reinterpret_cast<std::intptr_t>(&problems));
 }
 
-PictureRefusal BatchUpload::replaceOne(PictureEntry& entry, const std::string& path) {
-    PreparedPicture prepared;
-    const std::string workspace = workspaceFolder();
-    const auto prepare = [&] { prepared = preparePicture(entry, path, compiler, workspace); };
-    if (entry.isNinePatch()) {
-        ZProgressDialog dialog(Text("kIcon_Simple_BatchUpload_Loading"), _page.window());
-        static_cast<void>(dialog.run([&](const Progress&) {
-            prepare();
-            return true;
-        }));
-    } else {
-        prepare();
-    }
-    if (!_bench.theme() || _theme != _bench.themeSerial())
-        return {"kBatch_reason_41", {}};
-    return finishUpload(*_bench.theme(), entry, path, prepared, pictureChanged);
-}
-
-void BatchUpload::chooseAnother(BatchDialog& dialog, int index) {
-    const BatchFile file = dialog.result().refused[static_cast<std::size_t>(index)].file;
-    PictureEntry* entry = findEntry(_groups, file.key);
-    if (!entry)
-        return;
-    const QString pattern = entry->isNinePatch() ? ninePatchPattern : pngPattern;
-    const QString path = pictureChoice.file(&dialog, Text("kBatch_choose_one"), Text("kBatch_filter") + pattern);
-    if (path.isEmpty())
-        return;
-    replaceRefused(dialog, index, *entry, path.toStdString());
-}
-
-void BatchUpload::choosePlace(BatchDialog& dialog, int index, const QPoint& position) {
-    const std::string path = dialog.result().refused[static_cast<std::size_t>(index)].file.path;
-    QMenu menu(&dialog);
-    for (PictureGroup& group : _groups) {
-        QMenu* places = nullptr;
-        for (PictureEntry& entry : group.entries) {
-            if (entry.isNinePatch() != path.ends_with(".9.png"))
-                continue;
-            places = places ? places : menu.addMenu(group.title);
-            places->addAction(QString::fromStdString(entry.name))->setData(QString::fromStdString(entry.name));
+void BatchUpload::markProblems(std::vector<PictureGroup>& groups) const {
+    for (const auto& [key, refusal] : problemFiles) {
+        if (PictureEntry* entry = findEntry(groups, key)) {
+            entry->failed = true;
+            entry->error = refusalWords(refusal);
         }
     }
-    const QAction* chosen = menu.exec(position);
-    PictureEntry* entry = chosen ? findEntry(_groups, chosen->data().toString().toStdString()) : nullptr;
-    if (entry)
-        replaceRefused(dialog, index, *entry, path);
-}
-
-void BatchUpload::replaceRefused(BatchDialog& dialog, int index, PictureEntry& entry, const std::string& path) {
-    const bool wasOwn = isOwnPicture(entry);
-    const PictureRefusal refusal = replaceOne(entry, path);
-    if (!refusal.isNone()) {
-        QString words = Text(refusal.message);
-        for (const QString& argument : refusal.arguments)
-            words = words.arg(argument);
-        return dialog.setReason(index, words);
-    }
-    problemFiles.erase(entry.name);
-    dialog.setStored(index, {entry.name, path, wasOwn});
-    emit replaced(QString::fromStdString(entry.name));
 }
 
 void applyBatch(const ThemeResource& theme, const BatchResult& result, std::vector<PictureGroup>& groups) {

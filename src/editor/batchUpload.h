@@ -47,8 +47,11 @@ public:
 
     void Notify(const Notification& message) override;
 
-    /// What the last batches couldn't store, by the names of the rows; gone once a row is replaced, and to be cleared
-    /// for another theme.
+    /// Shows in groups that were made anew which rows failed, and why.
+    void markProblems(std::vector<PictureGroup>& groups) const;
+
+    /// What the last batches couldn't store, by the names of the rows; gone once a row is replaced, which a page that
+    /// replaces one by itself sees to, and with the theme (`Reload_history_themes`).
     std::map<std::string, BatchRefusal> problemFiles;
     PictureChanged pictureChanged; ///< The page's own part of storing a picture.
     NinePatchCompiler compiler;

@@ -8,6 +8,7 @@
 #include "modules/themeNode.h"
 #include "packaging/pictureCheck.h"
 #include "store/themeResource.h"
+#include "support/fileComparison.h"
 #include "support/text.h"
 
 #include <algorithm>
@@ -160,6 +161,11 @@ KeyRow keyRowOf(const ThemeResource& theme, const PictureEntry& entry) {
         row.sizes = leaf->sizeRanges();
     }
     return row;
+}
+
+bool hasOwnPicture(const PictureEntry& entry) {
+    const KeyPlace& shown = entry.places.front();
+    return !sameFiles(shown.value, shown.fallback);
 }
 
 void refreshEntry(const ThemeResource& theme, PictureEntry& entry) {

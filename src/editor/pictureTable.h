@@ -38,6 +38,9 @@ struct PictureSetRow {
 /// What a key list knows of an entry: what changes and resets it.
 [[nodiscard]] KeyRow keyRowOf(const ThemeResource& theme, const PictureEntry& entry);
 
+/// Whether the picture that is shown is another than the template's. Reads both files.
+[[nodiscard]] bool hasOwnPicture(const PictureEntry& entry);
+
 /// Reads the files of an entry anew.
 void refreshEntry(const ThemeResource& theme, PictureEntry& entry);
 

@@ -132,7 +132,9 @@ TEST_F(BatchUploadTest, RefusedFilesAreListedWithAWayOut) {
     const QString good = file("fitting.png", plainPng(192, 192));
     batch.pictureChoice.ask = [&](QWidget*, const FileRequest&) { return QStringList{good}; };
     run({file("ic_allapps.png", plainPng(10, 10)), file("nobody.png", plainPng(10, 10))}, [&](QDialog& box) {
-        EXPECT_EQ(batch.problemFiles.count("ic_allapps.png"), 1U);
+        std::vector<PictureGroup> groups = pictureGroupsOf(*bench.theme(), "launcher");
+        batch.markProblems(groups);
+        EXPECT_EQ(findEntry(groups, "ic_allapps.png")->error, "10*10 refused, needs 192*192");
         QTest::mouseClick(&FindControl<QPushButton>(&box, "batchCopy"), Qt::LeftButton);
         EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith("launcher/-22 ic_allapps.png\t10*10"));
         EXPECT_TRUE(QGuiApplication::clipboard()->text().contains("launcher/-1 nobody.png"));
@@ -194,6 +196,13 @@ TEST_F(BatchUploadTest, ToolThatHangsIsCancelledWithNothingStored) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return result.cancelled; }, 5000));
     EXPECT_TRUE(result.matched.empty());
     EXPECT_EQ(test::readFile(entry("ic_allapps.png").file()), before);
+}
+
+TEST_F(BatchUploadTest, ProblemsGoWithTheirTheme) {
+    run({file("ic_allapps.png", plainPng(10, 10))}, [](QDialog& box) { box.accept(); });
+    EXPECT_EQ(batch.problemFiles.size(), 1U);
+    bench.notifications().SendNotify(nullptr, notify::Reload_history_themes);
+    EXPECT_TRUE(batch.problemFiles.empty());
 }
 
 TEST_F(BatchUploadTest, NothingBeginsWithoutAThemeOrFiles) {
