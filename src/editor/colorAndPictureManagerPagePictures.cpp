@@ -2,7 +2,6 @@
 #include "canvas/phoneView.h"
 #include "canvas/previewComposition.h"
 #include "editor/batchUpload.h"
-#include "editor/batchWords.h"
 #include "editor/codeWords.h"
 #include "editor/colorAndPictureManagerPage.h"
 #include "editor/colorAndPictureSetPage.h"
@@ -85,13 +84,7 @@ void CColorAndPictureManagerPage::fillPictures(int index) {
     if (!theme() || !each.set)
         return;
     std::vector<PictureGroup> groups = pictureGroupsOf(*theme(), _module, each.screen->name);
-    for (PictureGroup& group : groups) {
-        for (PictureEntry& entry : group.entries) {
-            const auto problem = _batch->problemFiles.find(entry.name);
-            entry.failed = problem != _batch->problemFiles.end();
-            entry.error = entry.failed ? refusalWords(problem->second) : QString();
-        }
-    }
+    _batch->markProblems(groups);
     each.set->showPictures(groups);
 }
 

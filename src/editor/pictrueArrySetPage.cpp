@@ -39,10 +39,9 @@ CPictrueArryItem::CPictrueArryItem(QWidget* parent)
     : PictureCell(parent)
     , _thumbnail(new PictureThumbnail(thumbnailSide, this))
     , _reset(new QPushButton(this))
-    , _name(elided(this, "pictureName", "mono"))
+    , _name(elided(this, "pictureName", "small"))
     , _size(elided(this, "pictureSize", "monoHint"))
     , _upload(new QPushButton(this)) {
-    _name->setElideMode(Qt::ElideMiddle);
     _thumbnail->setObjectName("pictureThumbnail");
     _thumbnail->setCursor(Qt::PointingHandCursor);
     _reset->setObjectName("pictureReset");
@@ -80,7 +79,8 @@ void CPictrueArryItem::fill(const PictureCellContent& content, Thumbnails& thumb
     _thumbnail->show(thumbnails, entry.file());
     _thumbnail->setAlarmed(isFailed);
     _thumbnail->setToolTip(Text("kPicture_save_tip"));
-    _name->setText(QString::fromStdString(entry.name.substr(0, entry.name.size() - entry.format.size())));
+    const QString file = QString::fromStdString(entry.name.substr(0, entry.name.size() - entry.format.size()));
+    _name->setText(entry.text.isEmpty() ? file : entry.text);
     _name->setToolTip(pictureTip(content));
     _size->setText(isFailed ? entry.error : entry.isNinePatch() ? QString(".9.png") : entry.sizeHint);
     setStyleProperty(_size, "state", isFailed ? "error" : "");

@@ -1,6 +1,7 @@
 #include "editor/pictureItem.h"
 
 #include "editor/pictureThumbnail.h"
+#include "editor/sizeHint.h"
 #include "kit/icons.h"
 #include "kit/kitStyle.h"
 #include "kit/labels.h"
@@ -138,7 +139,9 @@ void CPictureItem::fill(const PictureCellContent& content, Thumbnails& thumbnail
     _dot->setToolTip(Text("kList_changed_tip"));
     _format->setText(QString::fromStdString(entry.format));
     _format->setKind(entry.isNinePatch() ? "generation8" : "plain");
-    const QString unchanged = _isChanged ? QString() : Text("kPicture_default");
+    // Beside words there is no room for another.
+    const bool isNumber = entry.sizeHint.isEmpty() || parseSizeHint(entry.sizeHint.toStdString()) != SizeRule();
+    const QString unchanged = _isChanged || !isNumber ? QString() : Text("kPicture_default");
     _size->setText(QStringList{entry.sizeHint, unchanged}.join(entry.sizeHint.isEmpty() ? "" : "  ").trimmed());
     _upload->setObjectName(content.controlName);
     _upload->setText(Text(_isChanged ? "replace_file" : "file_load"));

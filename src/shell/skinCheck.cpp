@@ -21,6 +21,7 @@ constexpr std::array skinFiles{
     "fullList.xml",
     "simplePage.xml",
     "batchUpload.xml",
+    "res_edit_unlock_change_positionframe.xml",
     "style.qss",
     "English.ini",
     "Chinese.ini",
