@@ -106,7 +106,6 @@ QPainterPath outlineOf(const ScreenLayer& layer, bool chinese) {
     case DrawingKind::none:
     case DrawingKind::portrait:
     case DrawingKind::photo:
-    case DrawingKind::appIcon:
         break;
     }
     return {};
@@ -133,9 +132,6 @@ bool paintArt(QPainter& painter, const QRectF& area, const Drawing& drawing, boo
         return true;
     case DrawingKind::photo:
         paintPhoto(painter, area, drawing.radius, drawing.variant);
-        return true;
-    case DrawingKind::appIcon:
-        paintAppIcon(painter, area, drawing.variant);
         return true;
     case DrawingKind::none:
     case DrawingKind::text:

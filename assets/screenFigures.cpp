@@ -61,21 +61,6 @@ constexpr std::array<Landscape, 5> landscapes{{
     {0xffa8d8cf, 0xffeef7f0, 0x99ffffff, 0xff9cc7a8, 0xff6ba47a, 0xff3f7d57},
 }};
 
-struct AppIcon {
-    Glyph glyph;
-    QRgb hue;
-};
-
-constexpr std::array<AppIcon, 20> appIcons{{
-    {Glyph::phone, 0xff3fb877},      {Glyph::message, 0xff4a90e2},   {Glyph::camera, 0xff5b6677},
-    {Glyph::photo, 0xffee8f5c},      {Glyph::gear, 0xff7a879a},      {Glyph::note, 0xffe0567a},
-    {Glyph::calculator, 0xffeaa23a}, {Glyph::envelope, 0xff3f9fdc},  {Glyph::globe, 0xff4f7fe6},
-    {Glyph::notepad, 0xffe9b63f},    {Glyph::person, 0xff4fb0e6},    {Glyph::heart, 0xffe86a6a},
-    {Glyph::folder, 0xff5a9bea},     {Glyph::weather, 0xff53a8e8},   {Glyph::calendar, 0xffe5705f},
-    {Glyph::clock, 0xff45506a},      {Glyph::recording, 0xffdd5f6e}, {Glyph::film, 0xff957ed6},
-    {Glyph::compass, 0xff3fa9a6},    {Glyph::paints, 0xffd273b4},
-}};
-
 /// In hundredths of the disc's side.
 class Figure {
 public:
@@ -188,14 +173,6 @@ void paintPhoto(QPainter& painter, const QRectF& area, double radius, int varian
     paintHills(painter, area, 0.70, 0.09, phase + 2.1, land.middle);
     paintHills(painter, area, 0.85, 0.07, phase + 4.4, land.near);
     painter.restore();
-}
-
-void paintAppIcon(QPainter& painter, const QRectF& area, int variant) {
-    const AppIcon& icon = rowOf(appIcons, variant);
-    const QColor colour = palette::colour(icon.hue);
-    paintTile(painter, area, colour.lighter(116), colour);
-    const double inset = area.width() * 0.2;
-    drawGlyph(painter, icon.glyph, area.marginsRemoved({inset, inset, inset, inset}), palette::paper);
 }
 
 } // namespace zdt::assets

@@ -14,7 +14,4 @@ void paintPortraitDisc(QPainter& painter, const QRectF& area, int variant);
 /// A landscape with rounded corners.
 void paintPhoto(QPainter& painter, const QRectF& area, double radius, int variant);
 
-/// An icon as the templates have it.
-void paintAppIcon(QPainter& painter, const QRectF& area, int variant);
-
 } // namespace zdt::assets

@@ -3,6 +3,7 @@
 #include "canvas/drawPictrue.h"
 #include "canvas/phoneView.h"
 #include "canvas/previewComposition.h"
+#include "canvas/screens/screenTable.h"
 #include "editor/batchUpload.h"
 #include "editor/colorAndPictureSetPage.h"
 #include "editor/colorItem.h"
@@ -97,15 +98,14 @@ void CColorAndPictureManagerPage::connectBar() {
     CDrawPictrue& picture = _phone->picture();
     connect(&picture, &CDrawPictrue::pointed, this, [this](const QString& key) { pointAt(key.toStdString()); });
     connect(&picture, &CDrawPictrue::unpointed, this, &CColorAndPictureManagerPage::pointAtNothing);
-    connect(&picture, &CDrawPictrue::picked, this, [this](const QString& key) { showKey(key.toStdString()); });
+    connect(&picture, &CDrawPictrue::picked, this, [this](const QString& key) { pick(key.toStdString()); });
     connect(&_outlines, &QPushButton::toggled, this, [this](bool on) { setInspecting(on); });
     connect(&_zoomOut, &QPushButton::clicked, _phone, &ZPhoneView::zoomOut);
     connect(&_zoomIn, &QPushButton::clicked, _phone, &ZPhoneView::zoomIn);
     connect(&_zoomFit, &QPushButton::clicked, _phone, &ZPhoneView::zoomToFit);
     connect(_phone, &ZPhoneView::zoomChanged, this, &CColorAndPictureManagerPage::showZoom);
-    connect(&_capture, &QPushButton::clicked, this, [this] {
-        bench().notifications().SendNotify(&_capture, notify::Notify_ScreenCapture_Msg);
-    });
+    connect(&_capture, &QPushButton::clicked, this,
+            [this] { bench().notifications().SendNotify(&_capture, notify::Notify_ScreenCapture_Msg); });
     _capture.setVisible(std::find(captured.begin(), captured.end(), _module) != captured.end());
     _composing.setSingleShot(true);
     connect(&_composing, &QTimer::timeout, this, &CColorAndPictureManagerPage::composeNext);
@@ -402,6 +402,14 @@ bool CColorAndPictureManagerPage::showKey(const std::string& key) {
         return true;
     }
     return false;
+}
+
+void CColorAndPictureManagerPage::pick(const std::string& key) {
+    if (showKey(key) || itemPathOf(key))
+        return;
+    auto [path, name] = pictureLeaf(key);
+    path.push_back(std::move(name));
+    emit keyRequested(shown(joinKeyPath(path)));
 }
 
 void CColorAndPictureManagerPage::focusSearch() {

@@ -62,6 +62,8 @@ public:
 signals:
     /// The theme isn't what it was.
     void edited();
+    /// A place was clicked whose key, the names down to it joined by "/", stands on another page.
+    void keyRequested(const QString& key);
 
 protected:
     void reload() override;
@@ -102,6 +104,8 @@ private:
     // What is pointed at
     void pointAt(const std::string& key);
     void pointAtNothing();
+    /// Goes to the row of what was clicked on the phone, wherever that is.
+    void pick(const std::string& key);
     void sayHint(const QString& text);
     void setInspecting(bool on);
     [[nodiscard]] QString wordsOfKey(const std::string& key) const;

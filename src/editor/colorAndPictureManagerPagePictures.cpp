@@ -197,7 +197,11 @@ void CColorAndPictureManagerPage::captureScreen() {
         capturePreview(*theme(), workspaceFolder(), _module, _screen, composition(_screen).frame());
     if (!capture.message.isEmpty())
         ZMessageBoxDlg::tell({capture.stored ? ZMessageBoxDlg::Kind::Success : ZMessageBoxDlg::Kind::Warning,
-                              "kDialog_Title_Desc_Info", capture.message, {}, "kConfirm", {}},
+                              "kDialog_Title_Desc_Info",
+                              capture.message,
+                              {},
+                              "kConfirm",
+                              {}},
                              Text, window());
     emit edited();
     bench().notifications().SendNotify(this, notify::Notify_Error_List_refresh);

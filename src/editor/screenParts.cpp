@@ -2,9 +2,7 @@
 
 #include "canvas/screens/screenTable.h"
 #include "editor/colourItems.h"
-#include "editor/moduleWords.h"
 #include "kit/skinFolder.h"
-#include "model/keyPath.h"
 #include "store/themeResource.h"
 
 #include <algorithm>
@@ -110,17 +108,9 @@ PreviewDescription describeScreen(const ThemeResource& theme, const Screen& scre
     return description;
 }
 
-KeyPath pictureBlock(const std::string& module) {
-    if (module == sharedModule)
-        return {"contacts", sharedModule, "image"};
-    return {module, "image"};
-}
-
 std::string pictureOf(const ThemeResource& theme, std::string_view key) {
-    const std::size_t slash = key.find('/');
-    if (slash == std::string_view::npos)
-        return theme.getValue({"wallpaper", "image"}, std::string(key));
-    return theme.getValue(pictureBlock(std::string(key.substr(0, slash))), std::string(key.substr(slash + 1)));
+    const auto [block, name] = pictureLeaf(key);
+    return theme.getValue(block, name);
 }
 
 } // namespace zdt

@@ -18,11 +18,7 @@ class ThemeResource;
 /// lacks.
 [[nodiscard]] PreviewDescription describeScreen(const ThemeResource& theme, const Screen& screen, bool chinese);
 
-/// The theme's file for the picture of a layer, named by module and file, "contacts/jing.png", or for a wallpaper by
-/// its file alone; empty for one that the theme doesn't have.
+/// The theme's file for the key of a layer's picture or wallpaper; empty for one that the theme doesn't have.
 [[nodiscard]] std::string pictureOf(const ThemeResource& theme, std::string_view key);
-
-/// Where a module's pictures stand in the tree.
-[[nodiscard]] std::vector<std::string> pictureBlock(const std::string& module);
 
 } // namespace zdt

@@ -120,8 +120,10 @@ CColorAndPictureManagerPage* CEditorPages::screensPage(const QString& module) {
     if (place.shown)
         return place.page;
     place.page = row->make(_place, place.shown, _bench);
-    if (place.page)
+    if (place.page) {
         connect(place.page, &CColorAndPictureManagerPage::edited, this, [this] { _isListOld = true; });
+        connect(place.page, &CColorAndPictureManagerPage::keyRequested, this, &CEditorPages::showKey);
+    }
     return place.page;
 }
 

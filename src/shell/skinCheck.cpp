@@ -12,20 +12,9 @@ namespace zdt {
 namespace {
 
 constexpr std::array skinFiles{
-    "skin.xml",
-    "start.xml",
-    "about.xml",
-    "newTheme.xml",
-    "export.xml",
-    "problems.xml",
-    "fullList.xml",
-    "simplePage.xml",
-    "batchUpload.xml",
-    "res_edit_unlock_change_positionframe.xml",
-    "style.qss",
-    "English.ini",
-    "Chinese.ini",
-    "Key.ini",
+    "skin.xml",     "start.xml",    "about.xml",      "newTheme.xml",    "export.xml",
+    "problems.xml", "fullList.xml", "simplePage.xml", "batchUpload.xml", "res_edit_unlock_change_positionframe.xml",
+    "style.qss",    "English.ini",  "Chinese.ini",    "Key.ini",
 };
 
 /// What a file that nothing else can tell to be whole ends with; a layout is told when it is read.

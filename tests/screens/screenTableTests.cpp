@@ -65,7 +65,7 @@ bool isShapeKind(DrawingKind kind) {
 }
 
 bool isArtKind(DrawingKind kind) {
-    return kind == DrawingKind::portrait || kind == DrawingKind::photo || kind == DrawingKind::appIcon;
+    return kind == DrawingKind::portrait || kind == DrawingKind::photo;
 }
 
 std::pair<KeyPath, std::string> splitKey(std::string_view key) {
@@ -73,15 +73,6 @@ std::pair<KeyPath, std::string> splitKey(std::string_view key) {
     std::string last = path.back();
     path.pop_back();
     return {path, last};
-}
-
-/// The path of the block of pictures, and the file.
-std::pair<KeyPath, std::string> pictureKey(std::string_view key) {
-    auto [path, file] = splitKey(key);
-    if (path.front() == "commonSetting")
-        path.insert(path.begin(), "contacts");
-    path.emplace_back("image");
-    return {path, file};
 }
 
 bool isOn(const Screen& screen, const ScreenLayer& layer, unsigned generation) {
@@ -183,7 +174,7 @@ TEST(ScreenTable, KeysAreThoseOfTheThemes) {
             if (!isOn(screen, layer, generation))
                 return;
             if (layer.kind == LayerKind::picture) {
-                const auto [path, file] = pictureKey(layer.key);
+                const auto [path, file] = pictureLeaf(layer.key);
                 EXPECT_FALSE(theme->getValue(path, file).empty()) << "no such picture in generation " << generation;
             } else if (layer.kind == LayerKind::wallpaper) {
                 EXPECT_FALSE(theme->getValue({"wallpaper", "image"}, std::string(layer.key)).empty());

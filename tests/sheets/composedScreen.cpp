@@ -1,6 +1,7 @@
 #include "sheets/composedScreen.h"
 
 #include "assets/screenArt.h"
+#include "canvas/screens/screenTable.h"
 #include "model/keyPath.h"
 #include "model/textResNode.h"
 
@@ -177,10 +178,7 @@ private:
     }
 
     [[nodiscard]] QImage load(std::string_view key) const {
-        auto [path, name] = splitKey(key);
-        if (path.front() == "commonSetting")
-            path.insert(path.begin(), "contacts");
-        path.emplace_back("image");
+        const auto [path, name] = pictureLeaf(key);
         const QImage picture(QString::fromStdString(_theme.getValue(path, name)));
         return _style.dark && !picture.isNull() ? darkened(picture) : picture;
     }
@@ -197,7 +195,8 @@ private:
     }
 
     void drawWallpaper(const ScreenLayer& layer, const QRect& place) {
-        const QImage picture(QString::fromStdString(_theme.getValue({"wallpaper", "image"}, std::string(layer.key))));
+        const auto [path, name] = pictureLeaf(layer.key);
+        const QImage picture(QString::fromStdString(_theme.getValue(path, name)));
         const int width = picture.height() * phoneWidth / phoneHeight;
         _painter.drawImage(place, picture, QRect((picture.width() - width) / 2, 0, width, picture.height()));
         if (_style.dark)

@@ -17,9 +17,9 @@ constexpr Ink tile{"commonSetting/dialing settings/button box background", scree
 constexpr std::string_view homeWallpaper = "home_wallpaper_0.jpg";
 constexpr TextStyle appName{36, 400, TextAlign::centre};
 
-struct App {
+struct NamedApp {
     Words name;
-    int icon;
+    App icon;
 };
 
 void addPageDots(ScreenBuilder& screen, int y, int count, int current, const Ink& ink) {
@@ -33,19 +33,19 @@ void addPageDots(ScreenBuilder& screen, int y, int count, int current, const Ink
     }
 }
 
-constexpr std::array<App, 12> homeApps{{
-    {{"Camera", "相机"}, 2},
-    {{"Gallery", "图库"}, 3},
-    {{"Weather", "天气"}, 13},
-    {{"Calendar", "日历"}, 14},
-    {{"Music", "音乐"}, 5},
-    {{"Videos", "视频"}, 17},
-    {{"Notes", "备忘录"}, 9},
-    {{"Health", "健康"}, 11},
-    {{"Files", "文件管理"}, 12},
-    {{"Email", "电子邮件"}, 7},
-    {{"Themes", "主题"}, 19},
-    {{"Settings", "设置"}, 4},
+constexpr std::array<NamedApp, 12> homeApps{{
+    {{"Camera", "相机"}, App::camera},
+    {{"Gallery", "图库"}, App::gallery},
+    {{"Weather", "天气"}, App::weather},
+    {{"Calendar", "日历"}, App::calendar},
+    {{"Music", "音乐"}, App::music},
+    {{"Videos", "视频"}, App::videos},
+    {{"Notes", "备忘录"}, App::notes},
+    {{"Health", "健康"}, App::health},
+    {{"Files", "文件管理"}, App::files},
+    {{"Email", "电子邮件"}, App::email},
+    {{"Themes", "主题"}, App::themes},
+    {{"Settings", "设置"}, App::settings},
 }};
 
 /// The mark at an icon's corner: a picture of the theme where its generation has one.
@@ -68,13 +68,13 @@ void addHomeApps(ScreenBuilder& screen, int top) {
     constexpr int pitch = 246;
     constexpr int rowPitch = 306;
     int number = 0;
-    for (const App& app : homeApps) {
+    for (const NamedApp& app : homeApps) {
         const Point centre{171 + number % 4 * pitch, top + number / 4 * rowPitch};
         const std::string name = "app" + std::to_string(++number);
         const bool chosen = number == 2 || number == 7;
         if (chosen)
             screen.panel(name + "_halo", {centre.x - 120, centre.y - 117, 240, 282}, 42, highlight.faded(72));
-        screen.appIcon(name + "_icon", centre, 168, app.icon);
+        screen.appIcon(centre, 168, app.icon);
         screen.text(name + "_name", {centre.x - 117, centre.y + 120, 234}, app.name, appName, white);
         addMark(screen, name, {centre.x + 72, centre.y - 69}, chosen);
     }
@@ -82,16 +82,17 @@ void addHomeApps(ScreenBuilder& screen, int top) {
 
 void addDock(ScreenBuilder& screen) {
     constexpr int middle = 1893;
-    constexpr std::array<int, 4> icons{0, 10, 1, 8};
+    constexpr std::array icons{App::phone, App::contacts, App::messages, App::browser};
     screen.card("dock", {36, middle - 135, 1008, 270}, 84, {{}, 0x38ffffff});
     int x = 156;
     int number = 1;
-    for (const int icon : icons) {
+    for (const App icon : icons) {
         if (number == 3) {
             screen.picture("launcher/ic_allapps.png", around({x, middle}, 168));
             x += 192;
         }
-        screen.appIcon("dock" + std::to_string(number++), {x, middle}, 168, icon);
+        screen.appIcon({x, middle}, 168, icon);
+        ++number;
         x += 192;
     }
 }
@@ -130,15 +131,15 @@ Screen homeScreen() {
     return screen.take();
 }
 
-constexpr std::array<App, 8> folderApps{{
-    {{"Calculator", "计算器"}, 6},
-    {{"Clock", "时钟"}, 15},
-    {{"Recorder", "录音机"}, 16},
-    {{"Compass", "指南针"}, 18},
-    {{"Files", "文件管理"}, 12},
-    {{"Notes", "备忘录"}, 9},
-    {{"Browser", "浏览器"}, 8},
-    {{"Weather", "天气"}, 13},
+constexpr std::array<NamedApp, 8> folderApps{{
+    {{"Calculator", "计算器"}, App::calculator},
+    {{"Clock", "时钟"}, App::clock},
+    {{"Recorder", "录音机"}, App::recorder},
+    {{"Compass", "指南针"}, App::compass},
+    {{"Files", "文件管理"}, App::files},
+    {{"Notes", "备忘录"}, App::notes},
+    {{"Browser", "浏览器"}, App::browser},
+    {{"Weather", "天气"}, App::weather},
 }};
 
 /// A name over its shadow, which the theme may leave out.
@@ -169,8 +170,8 @@ Screen folderScreen() {
             addFolderName(screen, name, line, {"Add", "添加"});
             break;
         }
-        const App& app = folderApps[static_cast<std::size_t>(number)];
-        screen.appIcon(name + "_icon", centre, 186, app.icon);
+        const NamedApp& app = folderApps[static_cast<std::size_t>(number)];
+        screen.appIcon(centre, 186, app.icon);
         addFolderName(screen, name, line, app.name);
     }
     addPageDots(screen, panel.y + panel.height + 72, 2, 1, white);
@@ -178,13 +179,13 @@ Screen folderScreen() {
     return screen.take();
 }
 
-constexpr std::array<App, 6> simpleApps{{
-    {{"Phone", "电话"}, 0},
-    {{"Messages", "信息"}, 1},
-    {{"Contacts", "联系人"}, 10},
-    {{"Camera", "相机"}, 2},
-    {{"Gallery", "图库"}, 3},
-    {{"Settings", "设置"}, 4},
+constexpr std::array<NamedApp, 6> simpleApps{{
+    {{"Phone", "电话"}, App::phone},
+    {{"Messages", "信息"}, App::messages},
+    {{"Contacts", "联系人"}, App::contacts},
+    {{"Camera", "相机"}, App::camera},
+    {{"Gallery", "图库"}, App::gallery},
+    {{"Settings", "设置"}, App::settings},
 }};
 
 Screen simpleScreen() {
@@ -200,12 +201,12 @@ Screen simpleScreen() {
     constexpr int height = 432;
     constexpr int gap = 48;
     int number = 0;
-    for (const App& app : simpleApps) {
+    for (const NamedApp& app : simpleApps) {
         const int left = 60 + number % 2 * (width + gap);
         const int top = 510 + number / 2 * (height + gap);
         const std::string name = "app" + std::to_string(++number);
         screen.card(name + "_tile", {left, top, width, height}, 60, tile);
-        screen.appIcon(name + "_icon", {left + width / 2, top + 177}, 228, app.icon);
+        screen.appIcon({left + width / 2, top + 177}, 228, app.icon);
         screen.text(name + "_name", {left + 24, top + 360, width - 48}, app.name, {60, 500, TextAlign::centre},
                     simpleText);
     }

@@ -108,8 +108,8 @@ ScreenLayer& ScreenBuilder::photo(std::string name, const Place& place, int radi
     return layer;
 }
 
-ScreenLayer& ScreenBuilder::appIcon(std::string name, Point centre, int side, int variant) {
-    return addArt(std::move(name), DrawingKind::appIcon, around(centre, side), variant);
+ScreenLayer& ScreenBuilder::appIcon(Point centre, int side, App app) {
+    return picture(iconKeys[static_cast<std::size_t>(app)], around(centre, side));
 }
 
 ScreenLayer& ScreenBuilder::picture(std::string_view key, const Place& place) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "canvas/screens/screenApps.h"
 #include "canvas/screens/screenIcons.h"
 #include "canvas/screens/screenLayer.h"
 
@@ -115,7 +116,8 @@ public:
     /// A disc with the first letter of a name.
     ScreenLayer& initial(std::string name, Point centre, int side, const Words& letter, int variant);
     ScreenLayer& photo(std::string name, const Place& place, int radius, int variant);
-    ScreenLayer& appIcon(std::string name, Point centre, int side, int variant);
+    /// The theme's icon of an application.
+    ScreenLayer& appIcon(Point centre, int side, App app);
     ScreenLayer& picture(std::string_view key, const Place& place);
     ScreenLayer& wallpaper(std::string_view file);
 

@@ -44,7 +44,6 @@ enum class DrawingKind {
     portrait, ///< Art: a person's picture in a disc, or the letter that `english` and `chinese` give; `variant` tells
               ///< which.
     photo,    ///< Art: a landscape, its corners rounded by `radius`; `variant` tells which.
-    appIcon,  ///< Art: an application's icon; `variant` tells which.
 };
 
 enum class TextAlign { left, centre, right };
@@ -80,8 +79,8 @@ struct ScreenLayer {
     LayerKind kind = LayerKind::fill;
     Place place;
     /// What the layer follows. A colour: module, group and item of simple mode, as "contacts/dial/highlight color". A
-    /// picture: module and file, as "contacts/dial_num_1_blk.png", where "commonSetting" means the pictures that all
-    /// applications share, those of the contacts. A wallpaper: its file. Empty for art.
+    /// picture: module and file, as "contacts/dial_num_1_blk.png" or "icons/com.android.mms.png", where "commonSetting"
+    /// means the pictures that all applications share, those of the contacts. A wallpaper: its file. Empty for art.
     std::string_view key;
     /// 0xaarrggbb of a fill or shape without a key, or whose key takes no part in the theme.
     std::uint32_t fallback = 0xff242424;

@@ -39,6 +39,19 @@ std::span<const Screen> screensOf(std::string_view module) {
     return {first, std::find_if_not(first, all.end(), isOfModule)};
 }
 
+std::pair<KeyPath, std::string> pictureLeaf(std::string_view key) {
+    const std::size_t slash = key.find('/');
+    if (slash == std::string_view::npos)
+        return {{"wallpaper", "image"}, std::string(key)};
+    const std::string module(key.substr(0, slash));
+    std::string name(key.substr(slash + 1));
+    if (module == "icons")
+        return {{module, "system", "static"}, std::move(name)};
+    if (module == "commonSetting")
+        return {{"contacts", module, "image"}, std::move(name)};
+    return {{module, "image"}, std::move(name)};
+}
+
 std::string layerFile(const Screen& screen, const ScreenLayer& layer, bool chinese) {
     return std::string("simplepic/") + (chinese ? "cn/" : "en/") + folderName(screen.module) + "/" +
            folderName(screen.name) + "/" + layer.name + ".png";

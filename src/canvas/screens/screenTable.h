@@ -1,10 +1,12 @@
 #pragma once
 
 #include "canvas/screens/screenLayer.h"
+#include "model/keyPath.h"
 
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace zdt {
 
@@ -14,6 +16,9 @@ namespace zdt {
 
 /// Those of a module; none for one that has no screens.
 [[nodiscard]] std::span<const Screen> screensOf(std::string_view module);
+
+/// Where the theme's tree has the picture or wallpaper that a layer's key names: the block, and the name in it.
+[[nodiscard]] std::pair<KeyPath, std::string> pictureLeaf(std::string_view key);
 
 /// Where the picture of a layer lies in the skin's folder: "simplepic/en/contacts/dial/title.png". Blanks in the names
 /// of module and screen become "_".

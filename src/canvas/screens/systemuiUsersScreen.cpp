@@ -27,9 +27,9 @@ void users(ScreenBuilder& b) {
 }
 
 /// A task's head: its icon and name, whether it is kept, and the sign that ends it.
-void taskHead(ScreenBuilder& b, const std::string& name, const Place& card, const Words& words, int icon, bool kept) {
+void taskHead(ScreenBuilder& b, const std::string& name, const Place& card, const Words& words, App icon, bool kept) {
     const int middle = card.y - 54;
-    b.appIcon(name + "_icon", {card.x + 42, middle}, 78, icon);
+    b.appIcon({card.x + 42, middle}, 78, icon);
     b.text(name + "_name", {card.x + 99, middle, 210}, words, {42, 500}, plain);
     b.leaveOut(before9);
     b.picture(kept ? "systemui/zd_recents_lock.png" : "systemui/zd_recents_unlock.png",
@@ -81,15 +81,15 @@ void browserTask(ScreenBuilder& b, const std::string& name, const Place& card) {
 
 struct Task {
     Words name;
-    int icon;
+    App icon;
     bool kept;
     void (*draw)(ScreenBuilder&, const std::string&, const Place&);
 };
 
-constexpr Task tasks[] = {{{"Gallery", "图库"}, 3, true, galleryTask},
-                          {{"Music", "音乐"}, 5, false, musicTask},
-                          {{"Notes", "便签"}, 9, false, notesTask},
-                          {{"Browser", "浏览器"}, 8, false, browserTask}};
+constexpr Task tasks[] = {{{"Gallery", "图库"}, App::gallery, true, galleryTask},
+                          {{"Music", "音乐"}, App::music, false, musicTask},
+                          {{"Notes", "便签"}, App::notes, false, notesTask},
+                          {{"Browser", "浏览器"}, App::browser, false, browserTask}};
 
 void closeAll(ScreenBuilder& b) {
     constexpr int middle = 1968;
