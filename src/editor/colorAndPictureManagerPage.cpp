@@ -43,6 +43,7 @@ constexpr int legendGap = 16;
 constexpr std::array<const char*, 3> captured{"contacts", "mms", "systemui"};
 /// Milliseconds.
 constexpr int stripDelay = 120;
+constexpr int outlineDelay = 900;
 
 QString shown(const std::string& text) {
     return QString::fromStdString(text);
@@ -87,7 +88,6 @@ CColorAndPictureManagerPage::CColorAndPictureManagerPage(Workbench& bench, std::
     _batch = std::make_unique<BatchUpload>(bench, _module, *this);
     connectBar();
     connectBatch();
-    qApp->installEventFilter(this);
 }
 
 CColorAndPictureManagerPage::~CColorAndPictureManagerPage() {
@@ -116,6 +116,9 @@ void CColorAndPictureManagerPage::connectBar() {
             _oldPreviews.insert(index);
         refreshNext();
     });
+    _outlineTimer.setSingleShot(true);
+    _outlineTimer.setInterval(outlineDelay);
+    connect(&_outlineTimer, &QTimer::timeout, this, [this] { pointAt(_pointedKey); });
     _tryTimer.setSingleShot(true);
     _tryTimer.setInterval(token::progressInterval);
 }
@@ -145,8 +148,11 @@ void CColorAndPictureManagerPage::dropViews() {
     pointAtNothing();
     _strip.setEntries({});
     for (View& each : _views) {
-        if (each.set)
-            each.set->deleteLater();
+        if (!each.set)
+            continue;
+        // It may still hear of the focus until it is gone.
+        each.set->colours().disconnect(this);
+        each.set->deleteLater();
     }
     _views.clear();
     _phone->picture().setComposition(nullptr);
@@ -162,11 +168,12 @@ void CColorAndPictureManagerPage::rebuild() {
         for (const Screen* screen : screens)
             _views.push_back({screen, nullptr, nullptr});
     }
-    for (View& each : _views)
-        each.composition.reset();
     std::vector<ScreenStrip::Entry> entries;
-    for (const View& each : _views)
-        entries.push_back({nameOf(each) + "|preview|button", screenWords(each.screen->name), nullptr, false});
+    for (View& each : _views) {
+        if (each.composition)
+            each.composition->setDescription(describe(each));
+        entries.push_back({nameOf(each) + "|preview|button", screenWords(each.screen->name), each.composition, false});
+    }
     _strip.setEntries(std::move(entries));
     showWords();
     if (_views.empty())
@@ -195,11 +202,15 @@ void CColorAndPictureManagerPage::showZoom() {
     placeLegend();
 }
 
+PreviewDescription CColorAndPictureManagerPage::describe(const View& view) const {
+    return describeScreen(*theme(), *view.screen, GetLanguage() == chineseLanguage);
+}
+
 PreviewComposition& CColorAndPictureManagerPage::composition(int index) {
     View& each = _views[static_cast<std::size_t>(index)];
     if (!each.composition) {
         each.composition = std::make_shared<PreviewComposition>();
-        each.composition->setDescription(describeScreen(*theme(), *each.screen, GetLanguage() == chineseLanguage));
+        each.composition->setDescription(describe(each));
     }
     return *each.composition;
 }
@@ -239,7 +250,8 @@ CColorAndPictureSetPage& CColorAndPictureManagerPage::setPage(int index) {
         connect(each.set, &CColorAndPictureSetPage::gridChosen, this, &CColorAndPictureManagerPage::showAsGrid);
         _sets.addWidget(each.set);
         connect(&each.set->colours(), &CColorSetPage::entered, this, [this, set = each.set](CColorItem* item) {
-            if (const ColourRow* row = set->colours().rowOf(*item); row && view().composition)
+            const ColourRow* row = hasScreen() ? set->colours().rowOf(*item) : nullptr;
+            if (row && view().composition)
                 _phone->picture().pulseParts(view().composition->partsOf(row->path.key()));
         });
     }
@@ -269,12 +281,15 @@ void CColorAndPictureManagerPage::showScreen(int index) {
 
 void CColorAndPictureManagerPage::showEvent(QShowEvent* event) {
     ZPage::showEvent(event);
+    qApp->installEventFilter(this);
     makeRoomForLegend();
     rebuild();
 }
 
 void CColorAndPictureManagerPage::hideEvent(QHideEvent* event) {
     ZPage::hideEvent(event);
+    qApp->removeEventFilter(this);
+    inspectByKey(false);
     clearPictureHint();
     _composing.stop();
     // A composed screen takes 9 MiB: what isn't seen is put together again when it is.
@@ -354,21 +369,20 @@ void CColorAndPictureManagerPage::setInspecting(bool on) {
 }
 
 bool CColorAndPictureManagerPage::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::WindowDeactivate && _isInspectingByKey) {
-        _isInspectingByKey = false;
-        setInspecting(_outlines.isChecked());
-    }
-    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
-    if (!isKey || !isVisible() || _outlines.isChecked())
-        return ZPage::eventFilter(watched, event);
-    // With the key held, the phone tells what is under the pointer.
-    const bool isDown = event->type() == QEvent::KeyPress;
-    const bool isHint = static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt;
-    if ((isHint || _isInspectingByKey) && _isInspectingByKey != (isHint && isDown)) {
-        _isInspectingByKey = isHint && isDown;
-        setInspecting(_isInspectingByKey);
-    }
+    if (event->type() == QEvent::WindowDeactivate)
+        inspectByKey(false);
+    else if (event->type() == QEvent::KeyPress)
+        inspectByKey(static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt);
+    else if (event->type() == QEvent::KeyRelease && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt)
+        inspectByKey(false);
     return ZPage::eventFilter(watched, event);
+}
+
+void CColorAndPictureManagerPage::inspectByKey(bool on) {
+    if (_isInspectingByKey == on)
+        return;
+    _isInspectingByKey = on;
+    setInspecting(on || _outlines.isChecked());
 }
 
 bool CColorAndPictureManagerPage::showKey(const std::string& key) {

@@ -89,6 +89,7 @@ private:
     void showScreen(int index);
     CColorAndPictureSetPage& setPage(int index);
     void fillSet(int index);
+    [[nodiscard]] PreviewDescription describe(const View& view) const;
     PreviewComposition& composition(int index);
     void composeNext();
     /// Lets one of the strip's previews follow an edit.
@@ -108,6 +109,8 @@ private:
     void pick(const std::string& key);
     void sayHint(const QString& text);
     void setInspecting(bool on);
+    /// While the key is held.
+    void inspectByKey(bool on);
     [[nodiscard]] QString wordsOfKey(const std::string& key) const;
 
     // What the controls do
@@ -122,6 +125,8 @@ private:
     void resetColour(CColorItem& item);
     /// Shows on all previews what a setting is now, and tells of the change.
     void colourChanged(const ItemPath& path);
+    /// The first half of it.
+    void showChanged(const ItemPath& path);
     void refreshVisibility();
 
     // What is done with pictures
@@ -169,6 +174,8 @@ private:
     QTimer _stripTimer;              ///< They follow a row of quick edits when it ends.
     QTimer _tryTimer;                ///< Colours that are tried are written at most thirty times a second.
     QColor _tried;
+    QColor _written;      ///< The last one that was tried and stored.
+    QTimer _outlineTimer; ///< Outlines give way to a colour that is being changed, and come back.
 };
 
 } // namespace zdt

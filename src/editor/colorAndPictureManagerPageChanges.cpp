@@ -100,14 +100,14 @@ void CColorAndPictureManagerPage::Notify(const Notification& message) {
 
 void CColorAndPictureManagerPage::dispatch(QObject* sender, const QString& message, const QStringList& tokens) {
     const int index = indexOf(tokens[1]);
-    if (index < 0 || !theme())
+    if (index < 0 || !theme() || tokens[0] != QString::fromStdString(_module))
         return;
     const bool isClick = message == notify::click;
     const QString& last = tokens.last();
     if (isClick && last == optionToken) {
         setPage(index).selectTab(tokens[2] == colourToken ? CColorAndPictureSetPage::colourTab
                                                           : CColorAndPictureSetPage::pictureTab);
-    } else if (isClick && tokens[2] == previewToken) {
+    } else if (isClick && tokens[2] == previewToken && last == rowControl::button) {
         bench().notifications().SendNotify(this, notify::MESSAGE_SET_PREVIEW_INDEX, index);
     } else if (CColorItem* item = rowAround(sender)) {
         if (isClick)
@@ -124,6 +124,8 @@ void CColorAndPictureManagerPage::clickRow(CColorItem& item, const QString& cont
         switchShadow(item);
     else if (control == rowControl::reset)
         resetColour(item);
+    else if (control == rowControl::tip)
+        item.showTip();
 }
 
 bool CColorAndPictureManagerPage::mayEdit(const CColorItem& item) {
@@ -154,6 +156,12 @@ void CColorAndPictureManagerPage::storeColour(CColorItem& item, const QColor& co
 }
 
 void CColorAndPictureManagerPage::colourChanged(const ItemPath& path) {
+    showChanged(path);
+    emit edited();
+    bench().notifications().SendNotify(this, notify::Notify_Error_List_refresh);
+}
+
+void CColorAndPictureManagerPage::showChanged(const ItemPath& path) {
     const std::string key = path.key();
     const QColor colour = itemColour(*theme(), path);
     for (View& each : _views) {
@@ -165,24 +173,26 @@ void CColorAndPictureManagerPage::colourChanged(const ItemPath& path) {
     _phone->picture().refresh();
     view().set->refreshColour(*theme(), path);
     _stripTimer.start();
-    emit edited();
-    bench().notifications().SendNotify(this, notify::Notify_Error_List_refresh);
+    _outlineTimer.start();
 }
 
 void CColorAndPictureManagerPage::refreshVisibility() {
     for (View& each : _views) {
         if (each.composition)
-            each.composition->setDescription(describeScreen(*theme(), *each.screen, GetLanguage() == chineseLanguage));
+            each.composition->setDescription(describe(each));
     }
 }
 
 void CColorAndPictureManagerPage::tryColour(const std::string& key, const QColor& colour) {
     _tried = colour;
     const std::optional<ItemPath> path = itemPathOf(key);
-    if (_tryTimer.isActive() || !theme() || !path ||
-        changeItem(*theme(), *path, composedColour(colour).toStdString()) != returnCode::success)
+    if (_tryTimer.isActive() || !theme() || !path || _tried == _written)
         return;
-    colourChanged(*path);
+    // What can't be stored now is said once it is chosen.
+    _written = _tried;
+    if (changeItem(*theme(), *path, composedColour(colour).toStdString()) != returnCode::success)
+        return;
+    showChanged(*path);
     _tryTimer.start();
 }
 
@@ -195,10 +205,9 @@ void CColorAndPictureManagerPage::chooseColour(CColorItem& item) {
     const ZColourDialog::Request request{item.content().colour, defaultItemColour(*theme(), path),
                                          coloursOf(*view().composition)};
     // The last colour tried is written even if the author stops within the interval.
-    const QMetaObject::Connection late = connect(&_tryTimer, &QTimer::timeout, this, [this, path] {
-        if (theme() && itemColour(*theme(), path) != _tried)
-            tryColour(path.key(), _tried);
-    });
+    const QMetaObject::Connection late =
+        connect(&_tryTimer, &QTimer::timeout, this, [this, path] { tryColour(path.key(), _tried); });
+    _written = item.content().colour;
     bool wasTried = false;
     const std::optional<QColor> chosen =
         ZColourDialog::choose(request, Text, this, [this, path, &wasTried](const QColor& colour) {
@@ -224,8 +233,10 @@ void CColorAndPictureManagerPage::switchShadow(CColorItem& item) {
     const ItemPath path = row->path;
     const ItemPath switchPath{path.module, path.group, row->switchItem};
     const bool isOn = !item.content().isOn.value_or(true);
-    if (const int code = changeItem(*theme(), switchPath, isOn ? "true" : "false"))
+    if (const int code = changeItem(*theme(), switchPath, isOn ? "true" : "false")) {
         tellNote(this, codeKey(code));
+        return view().set->refreshColour(*theme(), path);
+    }
     refreshVisibility();
     colourChanged(path);
 }
@@ -239,7 +250,7 @@ void CColorAndPictureManagerPage::resetColour(CColorItem& item) {
     if (code == returnCode::success && !row->switchItem.empty())
         code = resetItem(*theme(), {path.module, path.group, row->switchItem});
     if (code != returnCode::success)
-        tellNote(this, codeKey(code));
+        return tellNote(this, codeKey(code));
     refreshVisibility();
     colourChanged(path);
     // A field in which the author was typing follows too.

@@ -1,6 +1,8 @@
 #include "editor/colorItem.h"
 
 #include "editor/colourTyping.h"
+#include "editor/helpTip.h"
+#include "kit/colourText.h"
 #include "kit/icons.h"
 #include "kit/kitStyle.h"
 #include "kit/labels.h"
@@ -74,6 +76,10 @@ private:
     Qt::Alignment _where;
 };
 
+bool pastedWhole(const QString& text) {
+    return keptHexDigits(text, longestPaste).size() == alphaColourDigits;
+}
+
 } // namespace
 
 /// The swatch of a row.
@@ -133,7 +139,6 @@ CColorItem::CColorItem(const QString& name, CPaintManagerUI& notifications, QWid
     _swatch->installEventFilter(this);
     connect(_swatch, &QAbstractButton::clicked, this, [this] { _notifications.SendNotify(_swatch, notify::click); });
     _tip->setIcon(icon(Icon::InfoOutline, token::iconNavigation));
-    _tip->setFocusPolicy(Qt::NoFocus);
     _reset->setIcon(icon(Icon::SettingsBackupRestore, token::iconPlain));
     relabel();
     showState();
@@ -233,6 +238,11 @@ void CColorItem::showColour(const QColor& colour, const QLineEdit* typedIn) {
 
 std::optional<QColor> CColorItem::typed(const QLineEdit& field) {
     QLineEdit* const own = &field == _digits ? _digits : &field == _alpha ? _alpha : _percent;
+    if (own == _digits) {
+        // Only a paste brings its alpha along.
+        if (const std::optional<QColor> whole = colourOf(own->text()); whole && pastedWhole(own->text()))
+            return whole;
+    }
     const QString text = own == _digits  ? keptHexDigits(own->text(), typedColourDigits)
                          : own == _alpha ? keptHexDigits(own->text(), typedAlphaDigits)
                                          : keptPercent(own->text());
@@ -343,15 +353,22 @@ void CColorItem::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void CColorItem::flash() {
-    auto* fading = new QVariantAnimation(this);
-    fading->setDuration(flashTime);
-    fading->setStartValue(1.0);
-    fading->setEndValue(0.0);
-    connect(fading, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
-        _flash = value.toDouble();
-        update();
-    });
-    fading->start(QAbstractAnimation::DeleteWhenStopped);
+    if (!_fading) {
+        _fading = new QVariantAnimation(this);
+        _fading->setDuration(flashTime);
+        _fading->setStartValue(1.0);
+        _fading->setEndValue(0.0);
+        connect(_fading, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
+            _flash = value.toDouble();
+            update();
+        });
+    }
+    _fading->stop();
+    _fading->start();
+}
+
+void CColorItem::showTip() {
+    HelpTip::show(*_tip, _content.tip);
 }
 
 void CColorItem::edit() {

@@ -10,6 +10,7 @@ class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QVariantAnimation;
 
 namespace zdt {
 
@@ -66,6 +67,8 @@ public:
 
     /// Marks the row for a moment, so that the eye finds it.
     void flash();
+    /// Shows what the colour sets.
+    void showTip();
     /// Puts the focus into the field of the digits.
     void edit();
     /// The words of the controls, in the language of the moment.
@@ -101,7 +104,8 @@ private:
     QPushButton* _reset;
     QCheckBox* _switch = nullptr;
     bool _hovered = false;
-    double _flash = 0; ///< From 1 down to 0 while the mark fades.
+    QVariantAnimation* _fading = nullptr; ///< Made when it is first needed.
+    double _flash = 0;                    ///< From 1 down to 0 while the mark fades.
 };
 
 } // namespace zdt

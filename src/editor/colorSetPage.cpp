@@ -55,7 +55,8 @@ QString colourWords(const ColourRow& row) {
 CColorSetPage::CColorSetPage(const QString& name, CPaintManagerUI& notifications, QWidget* parent)
     : QScrollArea(parent)
     , _name(name)
-    , _notifications(notifications) {
+    , _notifications(notifications)
+    , _gliding(new QPropertyAnimation(verticalScrollBar(), "value", this)) {
     setObjectName(name + "|colours");
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
@@ -75,6 +76,7 @@ CColorSetPage::CColorSetPage(const QString& name, CPaintManagerUI& notifications
         head->setFixedHeight(GroupHead::height);
     connect(_empty, &ZEmptyState::actionClicked, this, &CColorSetPage::filterDropped);
     setWidget(body);
+    _gliding->setDuration(glideTime);
 }
 
 void CColorSetPage::build(const std::vector<ColourRow>& rows) {
@@ -206,10 +208,9 @@ void CColorSetPage::scrollTo(int y) {
         bar->setValue(y);
         return;
     }
-    auto* gliding = new QPropertyAnimation(bar, "value", this);
-    gliding->setDuration(glideTime);
-    gliding->setEndValue(std::clamp(y, bar->minimum(), bar->maximum()));
-    gliding->start(QAbstractAnimation::DeleteWhenStopped);
+    _gliding->stop();
+    _gliding->setEndValue(std::clamp(y, bar->minimum(), bar->maximum()));
+    _gliding->start();
 }
 
 } // namespace zdt

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-class QLabel;
+class QPropertyAnimation;
 class QVBoxLayout;
 
 namespace zdt {
@@ -63,6 +63,7 @@ private:
 
     QString _name;
     CPaintManagerUI& _notifications;
+    QPropertyAnimation* _gliding;
     QVBoxLayout* _column;
     QWidget* _ownHead;
     QWidget* _otherHead;

@@ -1,5 +1,6 @@
 #include "editor/problemPage.h"
 
+#include "editor/batchPlan.h"
 #include "editor/codeWords.h"
 #include "editor/problemList.h"
 #include "editor/problemRestore.h"
@@ -21,9 +22,17 @@
 #include <QTime>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace zdt {
+
+namespace {
+
+/// Milliseconds after the last of some quick edits.
+constexpr int checkDelay = 300;
+
+} // namespace
 
 CProblemPage::CProblemPage(Workbench& bench, QWidget* parent)
     : ZPage(bench, "problems.xml", parent)
@@ -68,8 +77,12 @@ void CProblemPage::makeChips() {
 
 void CProblemPage::connectControls() {
     _soon.setSingleShot(true);
+    _soon.setInterval(checkDelay);
     connect(&_soon, &QTimer::timeout, this, &CProblemPage::check);
-    connect(&_again, &QPushButton::clicked, this, &CProblemPage::check);
+    connect(&_again, &QPushButton::clicked, this, [this] {
+        _refused.clear();
+        check();
+    });
     connect(&_view, &ZListView::activated, this, &CProblemPage::goTo);
     connect(_list, &ProblemList::goToClicked, this, &CProblemPage::goTo);
     connect(_list, &ProblemList::restoreClicked, this, &CProblemPage::restore);
@@ -78,9 +91,9 @@ void CProblemPage::connectControls() {
 
 void CProblemPage::Notify(const Notification& message) {
     if (message.name == notify::Notify_Error_List_Msg && message.lParam != 0 && !message.async)
-        showProblems(*reinterpret_cast<const std::vector<Problem>*>(message.lParam));
+        takeProblems(*reinterpret_cast<const std::vector<Problem>*>(message.lParam));
     else if (message.name == notify::Notify_Error_List_refresh)
-        check();
+        reload();
     else
         ZPage::Notify(message);
 }
@@ -97,7 +110,22 @@ void CProblemPage::check() {
     std::vector<Problem> problems;
     if (theme())
         static_cast<void>(theme()->checkFiles(problems));
+    if (std::exchange(_theme, bench().themeSerial()) != bench().themeSerial())
+        _refused.clear();
+    problems.insert(problems.end(), _refused.begin(), _refused.end());
     showProblems(problems);
+}
+
+void CProblemPage::takeProblems(const std::vector<Problem>& problems) {
+    _refused.clear();
+    std::copy_if(problems.begin(), problems.end(), std::back_inserter(_refused),
+                 [](const Problem& problem) { return batchReasonNumber(problem.code) != 0; });
+    if (_refused.empty()) {
+        _soon.stop();
+        return showProblems(problems);
+    }
+    _theme = bench().themeSerial();
+    check();
 }
 
 void CProblemPage::showProblems(const std::vector<Problem>& problems) {

@@ -49,7 +49,7 @@ signals:
     void countsChanged();
 
 protected:
-    /// Checks at once while the page is seen, else soon: another page comes first then.
+    /// Checks at once while the page is seen, else soon: another page, or a row of quick edits, comes first then.
     void reload() override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -65,6 +65,8 @@ private:
     void makeChips();
     void connectControls();
     void showProblems(const std::vector<Problem>& problems);
+    /// Those that another page found. Files that a batch refused stay in the list until they are checked away.
+    void takeProblems(const std::vector<Problem>& problems);
     void say();
     void sayChips();
     void keepBarInside();
@@ -91,7 +93,9 @@ private:
     std::optional<Problem> _wanted; ///< To become current with the next list.
     QPointer<QWidget> _tabCell;
     QTimer _soon;
-    QString _time; ///< Of the last check; empty before it.
+    std::vector<Problem> _refused; ///< Files of a batch.
+    std::uint64_t _theme = 0;      ///< The serial of the theme to which they belong.
+    QString _time;                 ///< Of the last check; empty before it.
 };
 
 } // namespace zdt
