@@ -25,12 +25,6 @@ std::intptr_t nextId() {
 
 } // namespace
 
-TextAlign textAlignOf(const std::string& align) {
-    if (align == "center")
-        return TextAlign::center;
-    return align == "right" ? TextAlign::right : TextAlign::left;
-}
-
 EdgeRect boundsOf(const ItemPlaces& places) {
     EdgeRect all = places.rect;
     for (const ItemPlaces& part : places.parts) {

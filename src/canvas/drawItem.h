@@ -19,17 +19,14 @@ namespace zdt {
 class ItemPainter;
 struct OrderFlags;
 
-enum class TextAlign { left, center, right };
-
-/// `left`, `center` or `right` as a layout says it; anything else is left.
-[[nodiscard]] TextAlign textAlignOf(const std::string& align);
+enum class ItemTextAlign { left, center, right };
 
 /// How the text of an item looks.
-struct TextStyle {
+struct ItemTextStyle {
     QString font = "Arial";
     int size = 42; ///< Height in pixels of the design space.
     QRgb color = 0xff3e3e3e;
-    TextAlign align = TextAlign::left;
+    ItemTextAlign align = ItemTextAlign::left;
 };
 
 /// Where an item and what it holds lay, to put them back.
@@ -79,7 +76,7 @@ public:
     [[nodiscard]] OrderFlags orderFlags() const;
 
     QString text; ///< Drawn in place of a picture; empty for none.
-    TextStyle textStyle;
+    ItemTextStyle textStyle;
     int imageWidth = 0;
     int imageHeight = 0;
     bool keepSize = false; ///< `imageWidth` and `imageHeight` are the page's, whatever the picture says.
