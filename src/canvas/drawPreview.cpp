@@ -76,6 +76,7 @@ void CDrawPreview::setBackgroundRect(const std::optional<EdgeRect>& source) {
 }
 
 CDrawItem& CDrawPreview::addItem(std::unique_ptr<CDrawItem> item) {
+    Q_ASSERT(item);
     _items.push_back(std::move(item));
     CDrawItem& added = *_items.back();
     orderItems();
@@ -142,6 +143,7 @@ void CDrawPreview::orderItems() {
 }
 
 void CDrawPreview::setSelectedItem(CDrawItem* item) {
+    Q_ASSERT(!item || findItem(item->id()) == item);
     cancelDrag();
     if (item == _selected)
         return;
@@ -173,7 +175,7 @@ PlacementFault CDrawPreview::CheckRect(const EdgeRect& rect, int withoutListOrde
 }
 
 PreviewScene CDrawPreview::scene() const {
-    return {_space, _background, _modes, _items, _selected, _hand.isIdle() ? nullptr : _selected, isPlaying()};
+    return {_space, _background, _modes, _items, _selected, _hand.drags() ? _selected : nullptr, isPlaying()};
 }
 
 void CDrawPreview::paintEvent(QPaintEvent* /*event*/) {

@@ -76,7 +76,7 @@ public:
 
     // Selection. Those made by the hand and by keys are told; those made by a call aren't.
 
-    /// Null for none. Ends a drag.
+    /// Null for none; one of the canvas's own items. Ends a drag.
     void setSelectedItem(CDrawItem* item);
     [[nodiscard]] CDrawItem* selectedItem() const { return _selected; }
     void enableSelectionNotification(bool enable) { _notifySelect = enable; }
@@ -148,7 +148,7 @@ private:
     [[nodiscard]] CDrawItem* itemUnder(const QPoint& designPoint) const;
     void selectByHand(CDrawItem& item);
     void dragTo(const QPoint& point);
-    /// Lets go and puts what follows the hand back where it was.
+    /// Lets go, and puts what followed the hand back where it was.
     void cancelDrag();
     void moveByKeys(const QPoint& way);
     void selectNext(bool backwards);
@@ -178,7 +178,6 @@ private:
     QPointer<QObject> _playOwner;
     bool _notifySelect = false;
     bool _enableHot = true;
-    bool _tells = false;             ///< Whether a box is shown or about to be.
     const char* _told = nullptr;     ///< The key of what a box tells now or in a moment; null for none.
     std::optional<int> _captureKind; ///< Requested for the next paint.
 
