@@ -57,7 +57,7 @@ public:
     [[nodiscard]] virtual ItemPlaces places() const;
     virtual void setPlaces(const ItemPlaces& places);
     /// The animations of the item and of what it holds.
-    [[nodiscard]] virtual std::vector<ItemAnimation*> allAnimations() const;
+    [[nodiscard]] virtual ItemAnimations allAnimations() const;
 
     /// Loads the picture, and takes its size unless `keepSize` is set. False if it can't be read; the item has none
     /// then. What is larger than two screens is kept smaller.
@@ -102,7 +102,6 @@ public:
     bool isVideoLayer = false; ///< Its selection has a notification of its own.
     bool isGroup = false;      ///< The children of its element follow it.
     ElementPath element;       ///< Its element in the lock screen's document; empty for none.
-    std::vector<std::unique_ptr<ItemAnimation>> animations;
 
 protected:
     /// The picture or text, without a fill.
@@ -120,6 +119,9 @@ class CDrawPendant : public CDrawItem {
 public:
     using CDrawItem::CDrawItem;
     void Draw(ItemPainter& painter, bool playing) const override;
+    [[nodiscard]] ItemAnimations allAnimations() const override;
+
+    std::vector<std::unique_ptr<ItemAnimation>> animations; ///< May change while they play.
 };
 
 /// An item that holds others, which lie in it, are drawn behind each other over its frame picture, and follow it.
@@ -131,7 +133,7 @@ public:
     void Draw(ItemPainter& painter, bool playing) const override;
     [[nodiscard]] ItemPlaces places() const override;
     void setPlaces(const ItemPlaces& places) override;
-    [[nodiscard]] std::vector<ItemAnimation*> allAnimations() const override;
+    [[nodiscard]] ItemAnimations allAnimations() const override;
 
     std::vector<std::unique_ptr<CDrawItem>> children;
     QImage framePicture; ///< Drawn over the whole rectangle; null for none.

@@ -88,7 +88,7 @@ void CDrawPreview::removeItem(CDrawItem& item) {
     const auto place = std::ranges::find(_items, &item, &std::unique_ptr<CDrawItem>::get);
     if (place == _items.end())
         return;
-    stopAnimation();
+    endAnimation();
     if (_selected == &item)
         setSelectedItem(nullptr);
     _deletedNames += item.name();
@@ -97,7 +97,7 @@ void CDrawPreview::removeItem(CDrawItem& item) {
 }
 
 void CDrawPreview::removeAllItems() {
-    stopAnimation();
+    endAnimation();
     setSelectedItem(nullptr);
     _items.clear();
     _deletedNames.clear();
@@ -223,37 +223,47 @@ bool CDrawPreview::saveJpeg(const std::string& path, int quality) const {
     return writeJpeg(path, composed(), quality);
 }
 
+ItemAnimations CDrawPreview::animations() const {
+    ItemAnimations all;
+    for (const auto& item : _items) {
+        const ItemAnimations ofItem = item->allAnimations();
+        all.insert(all.end(), ofItem.begin(), ofItem.end());
+    }
+    return all;
+}
+
 void CDrawPreview::startAnimation(QObject* owner) {
     setSelectedItem(nullptr);
-    std::vector<ItemAnimation*> animations;
-    for (const auto& item : _items) {
-        const std::vector<ItemAnimation*> ofItem = item->allAnimations();
-        animations.insert(animations.end(), ofItem.begin(), ofItem.end());
-    }
     _playOwner = owner ? owner : this;
     _clock.start();
-    _run.start(std::move(animations), 0);
+    _run.start(animations(), 0);
     _passes.start();
     refresh();
 }
 
 void CDrawPreview::stopAnimation() {
     _passes.stop();
-    _run.stop();
+    _run.stop(animations());
     refresh();
 }
 
+void CDrawPreview::endAnimation() {
+    if (!_passes.isActive())
+        return;
+    stopAnimation();
+    if (_hub && _playOwner)
+        _hub->SendNotify(_playOwner, notify::Notify_Pendatn_Play_Stop_Msg, 0, 0, true);
+}
+
 void CDrawPreview::passAnimations() {
-    switch (_run.pass(_clock.elapsed())) {
+    switch (_run.pass(animations(), _clock.elapsed())) {
     case AnimationRun::Pass::unchanged:
         break;
     case AnimationRun::Pass::changed:
         refresh();
         break;
     case AnimationRun::Pass::ended:
-        stopAnimation();
-        if (_hub && _playOwner)
-            _hub->SendNotify(_playOwner, notify::Notify_Pendatn_Play_Stop_Msg, 0, 0, true);
+        endAnimation();
         break;
     }
 }

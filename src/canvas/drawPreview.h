@@ -60,9 +60,9 @@ public:
 
     /// One of the same name stays, but `findItem` gives the one that came last.
     CDrawItem& addItem(std::unique_ptr<CDrawItem> item);
-    /// Frees an item and notes its name as deleted. Stops what plays.
+    /// Frees an item and notes its name as deleted. Ends what plays, which the owner is told.
     void removeItem(CDrawItem& item);
-    /// Frees all, and forgets the deleted names.
+    /// Frees all, and forgets the deleted names. Ends what plays, which the owner is told.
     void removeAllItems();
     [[nodiscard]] const DrawItems& items() const { return _items; }
     /// Null if there is none.
@@ -106,7 +106,8 @@ public:
     /// Writes it; quality from 0 to 100.
     [[nodiscard]] bool saveJpeg(const std::string& path, int quality) const;
 
-    // Animations. Nothing can be selected or moved while they play.
+    // Animations. Nothing can be selected or moved while they play. When all is over, the items lie and look again as
+    // the author placed them, wherever the animations took them.
 
     /// @param owner the control that `Notify_Pendatn_Play_Stop_Msg` names when all is over; the canvas if null
     void startAnimation(QObject* owner = nullptr);
@@ -143,7 +144,10 @@ private:
     [[nodiscard]] PreviewScene scene() const;
     void send(const char* name, const CDrawItem& item);
     void sendCapture();
+    [[nodiscard]] ItemAnimations animations() const;
     void passAnimations();
+    /// Stops what plays and tells its owner; nothing if nothing plays.
+    void endAnimation();
 
     [[nodiscard]] CDrawItem* itemUnder(const QPoint& designPoint) const;
     void selectByHand(CDrawItem& item);
