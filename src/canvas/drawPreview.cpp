@@ -27,8 +27,9 @@ int baseWidth(const DesignSpace& space) {
     return space.height == DesignSpace::highHeight ? highBaseWidth : lowBaseWidth;
 }
 
-bool isVideoCapture(int kind) {
-    return kind == 3 || kind == 4;
+const char* captureMessage(int kind) {
+    return kind == 3 || kind == 4 ? notify::Notify_ScreenCapture_VideoUnlockMsg
+                                  : notify::Notify_ScreenCapture_ChangeUnlockMsg;
 }
 
 } // namespace
@@ -188,8 +189,7 @@ void CDrawPreview::paintEvent(QPaintEvent* /*event*/) {
         const QSize pixels = (QSizeF(screen.size()) * pixelRatio).toSize();
         painter.drawImage(QRectF(screen), _frame.compose(scene(), pixels, pixelRatio));
     }
-    if (_captureKind)
-        sendCapture();
+    sendCaptures();
 }
 
 void CDrawPreview::send(const char* name, const CDrawItem& item) {
@@ -198,20 +198,17 @@ void CDrawPreview::send(const char* name, const CDrawItem& item) {
 }
 
 void CDrawPreview::requestCapture(int captureKind) {
-    _captureKind = captureKind;
+    _captureKinds.insert(captureKind);
     if (visibleRegion().isEmpty() || window()->isMinimized())
-        sendCapture();
+        sendCaptures();
     else
         update();
 }
 
-void CDrawPreview::sendCapture() {
-    const int kind = *std::exchange(_captureKind, std::nullopt);
-    if (_hub) {
-        _hub->SendNotify(this,
-                         isVideoCapture(kind) ? notify::Notify_ScreenCapture_VideoUnlockMsg
-                                              : notify::Notify_ScreenCapture_ChangeUnlockMsg,
-                         kind, 0, true);
+void CDrawPreview::sendCaptures() {
+    for (const int kind : std::exchange(_captureKinds, {})) {
+        if (_hub)
+            _hub->SendNotify(this, captureMessage(kind), kind, 0, true);
     }
 }
 
@@ -283,8 +280,7 @@ int CDrawPreview::heightForWidth(int width) const {
 
 void CDrawPreview::hideEvent(QHideEvent* event) {
     cancelDrag();
-    if (_captureKind)
-        sendCapture();
+    sendCaptures();
     QWidget::hideEvent(event);
 }
 

@@ -18,6 +18,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 
 namespace zdt {
@@ -99,7 +100,7 @@ public:
     // Pictures of the whole.
 
     /// Lets a notification with `captureKind` follow the next paint, or come at once where none will follow: by kind
-    /// 3 or 4 that of the video lock, otherwise that of the designed one.
+    /// 3 or 4 that of the video lock, otherwise that of the designed one. Each kind that was requested is told once.
     void requestCapture(int captureKind);
     /// The canvas at the phone's own size, without the marks of the selection and without areas.
     [[nodiscard]] QImage composed() const;
@@ -143,7 +144,7 @@ private:
     [[nodiscard]] PlacementFault checkNew(const EdgeRect& rect, const auto& isLeftOut) const;
     [[nodiscard]] PreviewScene scene() const;
     void send(const char* name, const CDrawItem& item);
-    void sendCapture();
+    void sendCaptures();
     [[nodiscard]] ItemAnimations animations() const;
     void passAnimations();
     /// Stops what plays and tells its owner; nothing if nothing plays.
@@ -182,8 +183,8 @@ private:
     QPointer<QObject> _playOwner;
     bool _notifySelect = false;
     bool _enableHot = true;
-    const char* _told = nullptr;     ///< The key of what a box tells now or in a moment; null for none.
-    std::optional<int> _captureKind; ///< Requested for the next paint.
+    const char* _told = nullptr; ///< The key of what a box tells now or in a moment; null for none.
+    std::set<int> _captureKinds; ///< Requested for the next paint.
 
     AnimationRun _run;
     QTimer _passes;
