@@ -139,9 +139,9 @@ int CColorAndPictureManagerPage::indexOf(const QString& screen) const {
 
 void CColorAndPictureManagerPage::reload() {
     if (_theme != bench().themeSerial()) {
-        dropViews();
-        _batch->problemFiles.clear();
         _theme = bench().themeSerial();
+        _batch->problemFiles.clear();
+        _screen = std::min(_screen, 0);
     }
     if (isVisible())
         rebuild();
