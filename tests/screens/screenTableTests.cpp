@@ -160,22 +160,37 @@ public:
         const Screen* screen = ownScreen(_theme, path);
         if (!screen)
             return 0;
-        const PreviewDescription before = describeScreen(_theme, *screen, false);
+        Shown& shown = shownOf(*screen);
         const PreviewDescription after = changed(*screen, path);
         // Other settings may share a source with it: what they show doesn't count.
-        PreviewDescription alone = before;
-        for (std::size_t part = 0; part < before.parts.size(); ++part) {
-            if (after.parts[part].key == path.key() || after.parts[part].isVisible != before.parts[part].isVisible)
+        PreviewDescription alone = shown.parts;
+        for (std::size_t part = 0; part < alone.parts.size(); ++part) {
+            if (after.parts[part].key == path.key() || after.parts[part].isVisible != alone.parts[part].isVisible)
                 alone.parts[part] = after.parts[part];
         }
-        PreviewComposition& composition = _compositions[screen];
-        composition.setDescription(before);
-        const QImage frame = composition.frame().copy();
-        composition.setDescription(std::move(alone));
-        return pixelsThatDiffer(frame, composition.frame());
+        shown.composition.setDescription(std::move(alone));
+        return pixelsThatDiffer(shown.frame, shown.composition.frame());
     }
 
 private:
+    struct Shown {
+        PreviewDescription parts;
+        PreviewComposition composition;
+        QImage frame;
+    };
+
+    /// A screen as it is without a change.
+    Shown& shownOf(const Screen& screen) {
+        const auto [found, isNew] = _shown.try_emplace(&screen);
+        Shown& shown = found->second;
+        if (isNew) {
+            shown.parts = describeScreen(_theme, screen, false);
+            shown.composition.setDescription(shown.parts);
+            shown.frame = shown.composition.frame().copy();
+        }
+        return shown;
+    }
+
     /// The screen with the setting at what no theme has, which is put back.
     PreviewDescription changed(const Screen& screen, const ItemPath& path) {
         const std::vector<ResNode*> sources = _theme.simpleSources(path.block(), path.item);
@@ -190,7 +205,7 @@ private:
     }
 
     ThemeResource& _theme;
-    std::map<const Screen*, PreviewComposition> _compositions;
+    std::map<const Screen*, Shown> _shown;
 };
 
 } // namespace
