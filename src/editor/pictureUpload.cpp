@@ -179,11 +179,6 @@ int resetPicture(ThemeResource& theme, PictureEntry& entry, const PictureChanged
     return changed ? changed(entry.name, entry.file()) : returnCode::success;
 }
 
-std::string defaultPicture(bool chinese, std::string_view module, std::string_view preview, std::string_view name) {
-    std::string path = std::string("./") + std::string(skinFolderName) + "simplepic/" + (chinese ? "cn/" : "en/");
-    return path.append(module).append("/").append(preview).append("/").append(name).append(".png");
-}
-
 PictureRefusal savePictureAs(const PictureEntry& entry, const std::string& path) {
     const std::string& file = entry.file();
     if (!isPlainFile(file))

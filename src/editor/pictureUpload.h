@@ -70,11 +70,6 @@ struct StoredPicture {
 /// Puts an entry back to the template's pictures; 0 or a code of the store.
 [[nodiscard]] int resetPicture(ThemeResource& theme, PictureEntry& entry, const PictureChanged& changed);
 
-/// The picture that a part of a preview has while it has none of its own: a file of the skin, for the language.
-/// @param name such as "title", "_bg1" for the base layer, or a colour's name with "_qs" behind it
-[[nodiscard]] std::string defaultPicture(bool chinese, std::string_view module, std::string_view preview,
-                                         std::string_view name);
-
 /// Copies an entry's picture to a path, over what stands there. The working directory stays.
 /// @return what stands in the way, if anything
 [[nodiscard]] PictureRefusal savePictureAs(const PictureEntry& entry, const std::string& path);

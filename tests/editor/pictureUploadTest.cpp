@@ -138,11 +138,5 @@ TEST_F(PictureUploadTest, PictureIsSavedElsewhere) {
     EXPECT_FALSE(readFile(entry.file()).empty());
 }
 
-TEST(DefaultPictureTest, FollowsTheLanguage) {
-    EXPECT_EQ(defaultPicture(true, "launcher", "folder", "_bg1"),
-              "./skin/ZDThemeDesign/simplepic/cn/launcher/folder/_bg1.png");
-    EXPECT_EQ(defaultPicture(false, "mms", "MMS", "x_qs"), "./skin/ZDThemeDesign/simplepic/en/mms/MMS/x_qs.png");
-}
-
 } // namespace
 } // namespace zdt::test
