@@ -136,6 +136,7 @@ void CEditorPages::prepare() {
     if (!_listPlace)
         makeList();
     makeProblems();
+    static_cast<void>(screensPage(screensModules.front().module));
 }
 
 void CEditorPages::showFirst() {
