@@ -195,10 +195,14 @@ TEST_F(ImagePointsTest, TwoProcessesKeepTheFileWhole) {
     for (const std::string& path : {first, second, third})
         EXPECT_EQ(points().of(path)->points(), listed(QImage(QString::fromStdString(path))));
 
-    // Another puts a file of other records in the place of the one whose places are known.
+    // Where a record was known, another picture's of as many points stands now.
     ImagePoints known = points();
-    const std::string before = bytes();
-    put(before.substr(before.size() / 3) + before);
+    std::string other = bytes();
+    const std::size_t name = other.find("a.png");
+    ASSERT_NE(name, std::string::npos);
+    other[name] = 'd';
+    other[name - std::strlen("skin/ZDThemeDesign/simplepic/") - 4 + headSize + 8] = 77;
+    put(other);
     EXPECT_EQ(known.of(first)->points(), listed(disc({20, 20})));
     EXPECT_EQ(known.of(third)->points(), listed(disc({9, 9})));
 }
