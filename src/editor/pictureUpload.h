@@ -20,6 +20,9 @@ class ThemeResource;
 /// store. Called with the key and the path on the interface thread.
 using PictureChanged = std::function<int(const std::string& name, const std::string& path)>;
 
+/// The files that a chooser lists, in the language of the moment.
+[[nodiscard]] QString pictureFilter(bool isNinePatch);
+
 /// Why a picture isn't taken; nothing of the theme is changed then.
 struct PictureRefusal {
     QString message;       ///< Key of the message to show; empty for none.
@@ -58,22 +61,19 @@ struct StoredPicture {
 [[nodiscard]] StoredPicture storePicture(ThemeResource& theme, const PictureEntry& entry, const std::string& file,
                                          const PictureChanged& changed);
 
+/// What became of an upload. A file that has gone is neither stored nor refused.
+struct UploadResult {
+    bool isStored = false;
+    PictureRefusal refusal;
+};
+
 /// `storePicture` of what was prepared. On success the entry has its new files, the path and no failure.
 /// @param path what the author gave
-[[nodiscard]] PictureRefusal finishUpload(ThemeResource& theme, PictureEntry& entry, const std::string& path,
-                                          const PreparedPicture& prepared, const PictureChanged& changed);
-
-/// All of it at once.
-[[nodiscard]] PictureRefusal uploadPicture(ThemeResource& theme, PictureEntry& entry, const std::string& path,
-                                           const NinePatchCompiler& compiler, const PictureChanged& changed);
+[[nodiscard]] UploadResult finishUpload(ThemeResource& theme, PictureEntry& entry, const std::string& path,
+                                        const PreparedPicture& prepared, const PictureChanged& changed);
 
 /// Puts an entry back to the template's pictures; 0 or a code of the store.
 [[nodiscard]] int resetPicture(ThemeResource& theme, PictureEntry& entry, const PictureChanged& changed);
-
-/// The picture that a part of a preview has while it has none of its own: a file of the skin, for the language.
-/// @param name such as "title", "_bg1" for the base layer, or a colour's name with "_qs" behind it
-[[nodiscard]] std::string defaultPicture(bool chinese, std::string_view module, std::string_view preview,
-                                         std::string_view name);
 
 /// Copies an entry's picture to a path, over what stands there. The working directory stays.
 /// @return what stands in the way, if anything

@@ -24,7 +24,10 @@ protected:
     }
 
     PictureRefusal upload(PictureEntry& entry, const std::string& path) {
-        return uploadPicture(*bench.theme(), entry, path, compiler, changed);
+        const PreparedPicture prepared = preparePicture(entry, path, compiler, workspaceFolder());
+        UploadResult result = finishUpload(*bench.theme(), entry, path, prepared, changed);
+        EXPECT_EQ(result.isStored, entry.uploadedPath == path);
+        return result.refusal;
     }
 
     NinePatchCompiler compiler{std::string(ZDT_TOOLS_DIR) + "aapt"};
@@ -136,12 +139,6 @@ TEST_F(PictureUploadTest, PictureIsSavedElsewhere) {
     EXPECT_EQ(savePictureAs(entry, given.path("link.png")).message, "kProblem_4");
     EXPECT_EQ(savePictureAs(entry, "/proc/none/x.png").message, "kProblem_3");
     EXPECT_FALSE(readFile(entry.file()).empty());
-}
-
-TEST(DefaultPictureTest, FollowsTheLanguage) {
-    EXPECT_EQ(defaultPicture(true, "launcher", "folder", "_bg1"),
-              "./skin/ZDThemeDesign/simplepic/cn/launcher/folder/_bg1.png");
-    EXPECT_EQ(defaultPicture(false, "mms", "MMS", "x_qs"), "./skin/ZDThemeDesign/simplepic/en/mms/MMS/x_qs.png");
 }
 
 } // namespace
