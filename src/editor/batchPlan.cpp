@@ -70,7 +70,7 @@ private:
 /// Tests the bytes and pixels of a file that has a row.
 BatchState contentState(BatchFile& file) {
     const std::uint64_t bytes = fileSize(file.path);
-    if (bytes == 0 || bytes / bytesPerKilobyte > pictureLimit)
+    if (bytes / bytesPerKilobyte > pictureLimit)
         return BatchState::tooLarge;
     file.size = pngSize(file.path);
     if (file.size.width == 0 || file.size.height == 0)
@@ -172,9 +172,13 @@ std::vector<std::string> expandFiles(const std::vector<std::string>& given) {
         else
             files.push_back(path);
     }
-    if (files.size() > maxBatchFiles)
-        files.resize(maxBatchFiles);
     return files;
+}
+
+std::size_t cutToBatch(std::vector<std::string>& files) {
+    const std::size_t leftOut = files.size() - std::min(files.size(), maxBatchFiles);
+    files.resize(files.size() - leftOut);
+    return leftOut;
 }
 
 std::vector<BatchFile> planBatch(const std::vector<std::string>& files, std::string_view module,
@@ -189,10 +193,14 @@ std::vector<BatchFile> planBatch(const std::vector<std::string>& files, std::str
         file.file = path;
         file.name = fileName(path);
         file.state = nameState(file, rows, module);
-        if (file.state == BatchState::fine && !known.insert(toLowerAscii(file.name)).second)
+        const std::string lower = toLowerAscii(file.name);
+        if (file.state == BatchState::fine && known.contains(lower))
             file.state = BatchState::doubled;
         if (file.isFit())
             file.state = contentState(file);
+        // A file that isn't taken doesn't stand in the way of the next one.
+        if (file.state == BatchState::fine)
+            known.insert(lower);
     }
     return plan;
 }

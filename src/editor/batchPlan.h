@@ -16,7 +16,7 @@ namespace zdt {
 /// The numbers are those by which a batch tells its files.
 enum class BatchState {
     fine = 0,
-    tooLarge = 1, ///< Or empty.
+    tooLarge = 1,
     doubled = 2,
     toolFailed = 3, ///< The tool for nine-patches is missing, or was too slow.
     compileRefused = 4,
@@ -62,8 +62,12 @@ struct BatchFile {
     [[nodiscard]] bool isFit() const { return isClaimed() && state == BatchState::fine; }
 };
 
-/// The files that were given, with those of folders in the place of the folder: of these alone the pictures.
+/// The files that were given, with those of folders in the place of the folder: of these alone the pictures, in the order
+/// of their names.
 [[nodiscard]] std::vector<std::string> expandFiles(const std::vector<std::string>& given);
+
+/// Leaves as many files as a batch takes, and gives how many are too many.
+[[nodiscard]] std::size_t cutToBatch(std::vector<std::string>& files);
 
 /// Finds each file's row by its name, upper and lower case being the same, and tests what can be tested before it is
 /// compiled. Reads the files' sizes and headers, and may be called on any thread.
@@ -90,6 +94,7 @@ struct BatchResult {
     std::vector<BatchMatch> matched;
     std::vector<BatchRefusal> refused;
     int typeMismatches = 0;
+    std::size_t leftOut = 0; ///< Files beyond what a batch takes, which weren't looked at.
     bool cancelled = false; ///< What wasn't looked at then stands in neither list.
 
     [[nodiscard]] std::size_t readCount() const { return matched.size() + refused.size(); }

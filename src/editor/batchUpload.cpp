@@ -25,8 +25,6 @@ namespace {
 constexpr double compilingShare = 0.7;
 /// Milliseconds between two looks at whether the author cancelled.
 constexpr int cancelStep = 50;
-/// A batch's list of files, as the chooser names it.
-constexpr const char* pngPattern = " (*.png)";
 
 std::string compileFolder() {
     const std::string folder = workspaceFolder() + "Temp9Png/";
@@ -42,6 +40,7 @@ struct BatchUpload::Work {
     std::vector<PictureGroup> groups;
     std::vector<BatchFile> files;
     std::vector<BatchMatch> matched;
+    std::size_t leftOut = 0;
 };
 
 BatchUpload::BatchUpload(Workbench& bench, std::string module, QWidget& page)
@@ -56,7 +55,7 @@ BatchUpload::~BatchUpload() = default;
 void BatchUpload::askFiles() {
     const std::uint64_t theme = _bench.themeSerial();
     const QStringList files =
-        pictureChoice.files(_page.window(), Text("kBatch_choose"), Text("kBatch_filter") + pngPattern);
+        pictureChoice.files(_page.window(), Text("kBatch_choose"), pictureFilter(false));
     if (theme == _bench.themeSerial())
         start(files);
 }
@@ -77,7 +76,7 @@ void BatchUpload::start(const QStringList& files) {
 
 void BatchUpload::Notify(const Notification& message) {
     if (message.name == notify::Reload_history_themes)
-        problemFiles.clear();
+        forgetAll();
     if (message.sender != this)
         return;
     if (message.name == notify::Notify_Drag_File_Simple_9PNG)
@@ -130,7 +129,9 @@ void BatchUpload::run() {
 bool BatchUpload::work(Work& batch, ZProgressDialog& dialog, const Progress& progress) {
     const QPointer<QObject> self(this);
     const QTemporaryDir folder(QString::fromStdString(compileFolder()) + "many-XXXXXX");
-    batch.files = planBatch(expandFiles(batch.given), _module, batch.groups);
+    std::vector<std::string> files = expandFiles(batch.given);
+    batch.leftOut = cutToBatch(files);
+    batch.files = planBatch(files, _module, batch.groups);
     const std::vector<std::size_t> patches = ninePatchesOf(batch.files);
     _runs = patches.empty() ? 0 : workerCount(patches.size());
     BatchCompiling with{compiler, folder.path().toStdString() + "/", &dialog.cancelFlag(), [&](std::size_t run) {
@@ -178,18 +179,25 @@ void BatchUpload::storeOne(Work& batch, BatchFile& file) {
 void BatchUpload::takeResult(const Work& batch, bool cancelled) {
     _result = {};
     _result.matched = batch.matched;
+    _result.leftOut = batch.leftOut;
     _result.cancelled = cancelled;
-    for (const BatchRefusal& refusal : refusalsOf(_module, batch.files)) {
-        _result.refused.push_back(refusal);
+    _result.refused = refusalsOf(_module, batch.files);
+    _groups = batch.groups;
+    const bool isSameTheme = _bench.theme() && _theme == _bench.themeSerial();
+    for (const BatchRefusal& refusal : _result.refused) {
         _result.typeMismatches += refusal.file.state == BatchState::wrongType ? 1 : 0;
-        if (refusal.file.isClaimed())
+        if (refusal.file.isClaimed() && isSameTheme)
             problemFiles[refusal.file.key] = refusal;
     }
-    for (const BatchMatch& match : _result.matched)
+    for (const BatchMatch& match : _result.matched) {
         problemFiles.erase(match.key);
-    _groups = batch.groups;
-    if (_bench.theme() && _theme == _bench.themeSerial())
-        applyBatch(*_bench.theme(), _result, _groups);
+        PictureEntry* entry = isSameTheme ? findEntry(_groups, match.key) : nullptr;
+        if (!entry)
+            continue;
+        uploadedFiles[entry->key()] = match.path;
+        refreshEntry(*_bench.theme(), *entry);
+    }
+    markEntries(_groups);
 }
 
 void BatchUpload::showResult() {
@@ -231,30 +239,29 @@ void BatchUpload::listProblems() {
                                       reinterpret_cast<std::intptr_t>(&problems));
 }
 
-void BatchUpload::markProblems(std::vector<PictureGroup>& groups) const {
-    for (const auto& [key, refusal] : problemFiles) {
-        if (PictureEntry* entry = findEntry(groups, key)) {
+void BatchUpload::markEntries(std::vector<PictureGroup>& groups) const {
+    for (PictureGroup& group : groups) {
+        for (PictureEntry& entry : group.entries) {
+            const auto given = uploadedFiles.find(entry.key());
+            entry.uploadedPath = given == uploadedFiles.end() ? std::string() : given->second;
+        }
+    }
+    for (const auto& [name, refusal] : problemFiles) {
+        if (PictureEntry* entry = findEntry(groups, name)) {
             entry->failed = true;
             entry->error = refusalWords(refusal);
         }
     }
 }
 
-void applyBatch(const ThemeResource& theme, const BatchResult& result, std::vector<PictureGroup>& groups) {
-    for (const BatchRefusal& refusal : result.refused) {
-        if (PictureEntry* entry = findEntry(groups, refusal.file.key)) {
-            entry->failed = true;
-            entry->error = refusalWords(refusal);
-        }
-    }
-    for (const BatchMatch& match : result.matched) {
-        if (PictureEntry* entry = findEntry(groups, match.key)) {
-            entry->failed = false;
-            entry->error.clear();
-            entry->uploadedPath = match.path;
-            refreshEntry(theme, *entry);
-        }
-    }
+void BatchUpload::forget(const PictureEntry& entry) {
+    problemFiles.erase(entry.name);
+    uploadedFiles.erase(entry.key());
+}
+
+void BatchUpload::forgetAll() {
+    problemFiles.clear();
+    uploadedFiles.clear();
 }
 
 } // namespace zdt

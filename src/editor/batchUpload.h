@@ -47,12 +47,20 @@ public:
 
     void Notify(const Notification& message) override;
 
-    /// Shows in groups that were made anew which rows failed, and why.
-    void markProblems(std::vector<PictureGroup>& groups) const;
+    /// Puts a file in the place of an entry's, with a progress where that takes long, and keeps what came of it. The
+    /// entry shows it then.
+    [[nodiscard]] UploadResult upload(QWidget* window, PictureEntry& entry, const std::string& path);
+    /// What was given for an entry, or refused, is past.
+    void forget(const PictureEntry& entry);
+    void forgetAll();
+    /// Shows in groups that were made anew what this session gave: the paths, which rows failed, and why.
+    void markEntries(std::vector<PictureGroup>& groups) const;
 
-    /// What the last batches couldn't store, by the names of the rows; gone once a row is replaced, which a page that
-    /// replaces one by itself sees to, and with the theme (`Reload_history_themes`).
+    /// What the last batches couldn't store, by the names of the rows; gone once a row is replaced or reset, and with
+    /// the theme (`Reload_history_themes`).
     std::map<std::string, BatchRefusal> problemFiles;
+    /// The paths that the author gave for the theme, by the keys of the entries.
+    std::map<std::string, std::string> uploadedFiles;
     PictureChanged pictureChanged; ///< The page's own part of storing a picture.
     NinePatchCompiler compiler;
     FileChoice pictureChoice{QStandardPaths::PicturesLocation};
@@ -61,7 +69,7 @@ signals:
     /// A batch has ended, and its files are stored. The summary comes behind it.
     void finished(const zdt::BatchResult& result);
     /// A picture was replaced from the summary.
-    void replaced(const QString& key);
+    void replaced(const zdt::PictureEntry& entry);
 
 private:
     struct Work;
@@ -77,7 +85,6 @@ private:
     void chooseAnother(BatchDialog& dialog, int index);
     void choosePlace(BatchDialog& dialog, int index, const QPoint& position);
     void replaceRefused(BatchDialog& dialog, int index, PictureEntry& entry, const std::string& path);
-    [[nodiscard]] PictureRefusal replaceOne(PictureEntry& entry, const std::string& path);
 
     Workbench& _bench;
     std::string _module;
@@ -91,8 +98,5 @@ private:
     BatchResult _result;
     std::vector<PictureGroup> _groups;
 };
-
-/// Shows in a page's groups what a batch did: the files, and which rows failed.
-void applyBatch(const ThemeResource& theme, const BatchResult& result, std::vector<PictureGroup>& groups);
 
 } // namespace zdt

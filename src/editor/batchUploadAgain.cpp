@@ -11,29 +11,25 @@
 /// What the summary of a batch offers for a refused file.
 namespace zdt {
 
-namespace {
-
-constexpr const char* pngPattern = " (*.png)";
-constexpr const char* ninePatchPattern = " (*.9.png)";
-
-} // namespace
-
-PictureRefusal BatchUpload::replaceOne(PictureEntry& entry, const std::string& path) {
+UploadResult BatchUpload::upload(QWidget* window, PictureEntry& entry, const std::string& path) {
+    const std::uint64_t serial = _bench.themeSerial();
     PreparedPicture prepared;
-    const std::string workspace = workspaceFolder();
-    const auto prepare = [&] { prepared = preparePicture(entry, path, compiler, workspace); };
-    if (entry.isNinePatch()) {
-        ZProgressDialog dialog(Text("kIcon_Simple_BatchUpload_Loading"), _page.window());
+    {
+        ZProgressDialog dialog(Text("kIcon_Simple_BatchUpload_Loading"), window);
+        dialog.showLate();
         static_cast<void>(dialog.run([&](const Progress&) {
-            prepare();
+            prepared = preparePicture(entry, path, compiler, workspaceFolder());
             return true;
         }));
-    } else {
-        prepare();
     }
-    if (!_bench.theme() || _theme != _bench.themeSerial())
-        return {"kBatch_reason_41", {}};
-    return finishUpload(*_bench.theme(), entry, path, prepared, pictureChanged);
+    if (!_bench.theme() || serial != _bench.themeSerial())
+        return {};
+    UploadResult result = finishUpload(*_bench.theme(), entry, path, prepared, pictureChanged);
+    if (result.isStored) {
+        problemFiles.erase(entry.name);
+        uploadedFiles[entry.key()] = path;
+    }
+    return result;
 }
 
 void BatchUpload::chooseAnother(BatchDialog& dialog, int index) {
@@ -41,8 +37,7 @@ void BatchUpload::chooseAnother(BatchDialog& dialog, int index) {
     PictureEntry* entry = findEntry(_groups, file.key);
     if (!entry)
         return;
-    const QString pattern = entry->isNinePatch() ? ninePatchPattern : pngPattern;
-    const QString path = pictureChoice.file(&dialog, Text("kBatch_choose_one"), Text("kBatch_filter") + pattern);
+    const QString path = pictureChoice.file(&dialog, Text("kBatch_choose_one"), pictureFilter(entry->isNinePatch()));
     if (path.isEmpty())
         return;
     replaceRefused(dialog, index, *entry, path.toStdString());
@@ -68,16 +63,16 @@ void BatchUpload::choosePlace(BatchDialog& dialog, int index, const QPoint& posi
 
 void BatchUpload::replaceRefused(BatchDialog& dialog, int index, PictureEntry& entry, const std::string& path) {
     const bool wasOwn = hasOwnPicture(entry);
-    const PictureRefusal refusal = replaceOne(entry, path);
-    if (!refusal.isNone()) {
-        QString words = Text(refusal.message);
-        for (const QString& argument : refusal.arguments)
+    const bool isSameTheme = _bench.theme() && _theme == _bench.themeSerial();
+    const UploadResult uploaded = isSameTheme ? upload(_page.window(), entry, path) : UploadResult();
+    if (!uploaded.isStored) {
+        QString words = Text(uploaded.refusal.isNone() ? "kBatch_reason_41" : uploaded.refusal.message);
+        for (const QString& argument : uploaded.refusal.arguments)
             words = words.arg(argument);
         return dialog.setReason(index, words);
     }
-    problemFiles.erase(entry.name);
     dialog.setStored(index, {entry.name, path, wasOwn});
-    emit replaced(QString::fromStdString(entry.name));
+    emit replaced(entry);
 }
 
 } // namespace zdt

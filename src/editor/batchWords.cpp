@@ -62,6 +62,8 @@ QString situationText(const BatchResult& result) {
     QString text = TextWith("kIcon_Simple_BatchUpload_Situation", static_cast<int>(result.matched.size()));
     if (!result.refused.empty())
         text += TextWith("kIcon_Simple_BatchUpload_Situation_suc", static_cast<int>(result.refused.size()));
+    if (result.leftOut > 0)
+        text += TextWith("kBatch_left_out", static_cast<int>(result.leftOut));
     return text;
 }
 

@@ -9,6 +9,7 @@
 #include "editor/colorItem.h"
 #include "editor/colorSetPage.h"
 #include "editor/moduleWords.h"
+#include "editor/previewCapture.h"
 #include "editor/screenLegend.h"
 #include "editor/screenParts.h"
 #include "editor/screenPictures.h"
@@ -29,7 +30,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <array>
 
 /// The page and what it shows; what its controls do stands in colorAndPictureManagerPageChanges.cpp.
 namespace zdt {
@@ -42,8 +42,6 @@ constexpr int stripSide = 8;
 constexpr int legendGap = 16;
 /// The narrowest bar that has room for all its words.
 constexpr int wideBar = 620;
-/// The modules of whose screens a package shows previews.
-constexpr std::array<const char*, 3> captured{"contacts", "mms", "systemui"};
 /// Milliseconds.
 constexpr int stripDelay = 120;
 constexpr int outlineDelay = 900;
@@ -109,7 +107,7 @@ void CColorAndPictureManagerPage::connectBar() {
     connect(_phone, &ZPhoneView::zoomChanged, this, &CColorAndPictureManagerPage::showZoom);
     connect(&_capture, &QPushButton::clicked, this,
             [this] { bench().notifications().SendNotify(&_capture, notify::Notify_ScreenCapture_Msg); });
-    _capture.setVisible(std::find(captured.begin(), captured.end(), _module) != captured.end());
+    _capture.setVisible(hasCapture(_module));
     _composing.setSingleShot(true);
     connect(&_composing, &QTimer::timeout, this, &CColorAndPictureManagerPage::composeNext);
     _stripTimer.setSingleShot(true);
@@ -140,7 +138,7 @@ int CColorAndPictureManagerPage::indexOf(const QString& screen) const {
 void CColorAndPictureManagerPage::reload() {
     if (_theme != bench().themeSerial()) {
         _theme = bench().themeSerial();
-        _batch->problemFiles.clear();
+        _batch->forgetAll();
         _screen = std::min(_screen, 0);
     }
     if (isVisible())
@@ -412,8 +410,7 @@ bool CColorAndPictureManagerPage::showKey(const std::string& key) {
         fillSet(index);
         CColorAndPictureSetPage& set = setPage(index);
         CColorItem* item = set.colours().itemOf(key);
-        const std::string name = key.substr(key.rfind('/') + 1);
-        const bool isPicture = !item && set.pictures()->has(name);
+        const bool isPicture = !item && set.pictures()->has(key);
         if (!item && !isPicture)
             continue;
         if (index != _screen)
@@ -421,7 +418,8 @@ bool CColorAndPictureManagerPage::showKey(const std::string& key) {
         if (isPicture) {
             set.clearFilter();
             set.selectTab(CColorAndPictureSetPage::pictureTab);
-            set.pictures()->showPicture(shown(name));
+            set.pictures()->showPicture(shown(key));
+            pulsePicture(shown(key));
             return true;
         }
         set.selectTab(CColorAndPictureSetPage::colourTab);

@@ -66,6 +66,10 @@ signals:
     void keyRequested(const QString& key);
 
 protected:
+    /// What a page does with a picture that the theme has taken, or put back: mirrors it onto its other uses.
+    /// @param preview index of the screen
+    /// @return 0, or a code of the store, and then the picture is taken back
+    virtual int OnPictureChanged(int preview, const std::string& name, const std::string& path);
     void reload() override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
@@ -136,10 +140,11 @@ private:
     ScreenPictures* makePictures(const Screen& screen, CColorAndPictureSetPage& set);
     void showAsGrid(bool isGrid);
     void fillPictures(int index);
-    void hintPicture(const std::string& name);
+    /// @param key of the layers, "<sub-module>/<name>"
+    void hintPicture(const std::string& key);
     void clearPictureHint();
-    /// The key in the layers of a picture of the chosen screen.
-    [[nodiscard]] std::string keyOfPicture(const std::string& name);
+    /// Shows where on the phone a picture is.
+    void pulsePicture(const QString& key);
     void choosePicture(const PictureEntry& entry);
     void uploadPictureFile(PictureEntry entry, const QString& path);
     void resetEntry(PictureEntry entry);
@@ -148,7 +153,7 @@ private:
     void captureScreen();
     void entryChanged(const PictureEntry& entry);
     /// Shows on all previews what a picture is now, and tells of the change.
-    void pictureChanged(const std::string& name);
+    void pictureChanged(const std::string& key);
 
     std::string _module;
     QLabel& _title;

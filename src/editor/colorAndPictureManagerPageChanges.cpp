@@ -8,6 +8,7 @@
 #include "editor/colorItem.h"
 #include "editor/colorSetPage.h"
 #include "editor/colourTyping.h"
+#include "editor/pictureSet.h"
 #include "editor/screenParts.h"
 #include "editor/screenPictures.h"
 #include "kit/colourDialog.h"
@@ -50,6 +51,12 @@ CColorItem* rowAround(QObject* control) {
     return nullptr;
 }
 
+/// The key of the picture that is pointed at in the list or grid that tells of it; empty for none.
+std::string hoveredPicture(const QWidget& sender) {
+    const auto* set = qobject_cast<const PictureSet*>(&sender);
+    return set ? set->hoveredKey().toStdString() : std::string();
+}
+
 /// The colours of a screen's rows, each once.
 QList<QColor> coloursOf(const PreviewComposition& composition) {
     QList<QColor> colours;
@@ -87,7 +94,7 @@ void CColorAndPictureManagerPage::Notify(const Notification& message) {
     if (message.name == notify::Notify_ScreenCapture_Msg && message.wParam == ofPreview)
         return captureScreen();
     if (message.name == notify::Notify_Pic_Hint)
-        return hintPicture(reinterpret_cast<const QString*>(message.lParam)->toStdString());
+        return hintPicture(hoveredPicture(*sender));
     if (message.name == notify::Notify_Pic_Hint_Reset)
         return clearPictureHint();
     if (message.name == notify::click && name == pictureControl::uploadMany)

@@ -15,7 +15,6 @@
 #include "kit/messageBoxDlg.h"
 #include "kit/messageBoxes.h"
 #include "kit/notificationNames.h"
-#include "kit/progressDialog.h"
 #include "kit/skinFolder.h"
 #include "model/returnCode.h"
 
@@ -24,28 +23,21 @@
 /// What the author does with the pictures of a screen.
 namespace zdt {
 
-namespace {
-
-constexpr const char* ninePatchPattern = " (*.9.png)";
-constexpr const char* pngPattern = " (*.png)";
-
-QString filterOf(const PictureEntry& entry) {
-    return Text("kBatch_filter") + (entry.isNinePatch() ? ninePatchPattern : pngPattern);
-}
-
-} // namespace
-
 void CColorAndPictureManagerPage::connectBatch() {
     connect(_batch.get(), &BatchUpload::finished, this, [this] {
         for (int index = 0; index < screenCount(); ++index)
             fillPictures(index);
         emit edited();
     });
-    connect(_batch.get(), &BatchUpload::replaced, this, [this](const QString& name) {
-        for (int index = 0; index < screenCount(); ++index)
-            fillPictures(index);
-        pictureChanged(name.toStdString());
-    });
+    connect(_batch.get(), &BatchUpload::replaced, this, &CColorAndPictureManagerPage::entryChanged);
+    _batch->pictureChanged = [this](const std::string& name, const std::string& path) {
+        return OnPictureChanged(_screen, name, path);
+    };
+}
+
+int CColorAndPictureManagerPage::OnPictureChanged(int /*preview*/, const std::string& /*name*/,
+                                                  const std::string& /*path*/) {
+    return returnCode::success;
 }
 
 void CColorAndPictureManagerPage::showAsGrid(bool isGrid) {
@@ -68,14 +60,13 @@ ScreenPictures* CColorAndPictureManagerPage::makePictures(const Screen& screen, 
             uploadPictureFile(entry, files.value(0));
         });
         connect(each, &PictureSet::batchDropped, _batch.get(), &BatchUpload::start);
-        connect(each, &PictureSet::hovered, this, [this, each](const QString& name) {
-            bench().notifications().SendNotify(each, notify::Notify_Pic_Hint, 0,
-                                               reinterpret_cast<std::intptr_t>(&name));
-        });
+        connect(each, &PictureSet::hovered, this, [this, each] { bench().notifications().SendNotify(each, notify::Notify_Pic_Hint); });
+        connect(each, &PictureSet::chosen, this, &CColorAndPictureManagerPage::pulsePicture);
         connect(each, &PictureSet::unhovered, this,
                 [this, each] { bench().notifications().SendNotify(each, notify::Notify_Pic_Hint_Reset); });
         connect(each, &PictureSet::filterCleared, &set, &CColorAndPictureSetPage::clearFilter);
     }
+    connect(&set, &CColorAndPictureSetPage::filesDropped, _batch.get(), &BatchUpload::start);
     return pictures;
 }
 
@@ -84,14 +75,13 @@ void CColorAndPictureManagerPage::fillPictures(int index) {
     if (!theme() || !each.set)
         return;
     std::vector<PictureGroup> groups = pictureGroupsOf(*theme(), _module, each.screen->name);
-    _batch->markProblems(groups);
+    _batch->markEntries(groups);
     each.set->showPictures(groups);
 }
 
-void CColorAndPictureManagerPage::hintPicture(const std::string& name) {
-    if (!hasScreen() || !view().set)
+void CColorAndPictureManagerPage::hintPicture(const std::string& key) {
+    if (!hasScreen() || !isVisible())
         return;
-    const std::string key = keyOfPicture(name);
     pointAt(key);
     for (int index = 0; index < screenCount(); ++index) {
         const auto& composition = _views[static_cast<std::size_t>(index)].composition;
@@ -101,19 +91,18 @@ void CColorAndPictureManagerPage::hintPicture(const std::string& name) {
 
 void CColorAndPictureManagerPage::clearPictureHint() {
     pointAtNothing();
-    for (int index = 0; index < screenCount(); ++index)
+    for (int index = 0; index < _strip.count(); ++index)
         _strip.setMarked(index, false);
 }
 
-std::string CColorAndPictureManagerPage::keyOfPicture(const std::string& name) {
-    std::vector<PictureGroup> groups = view().set->pictures()->sets().front()->groups();
-    const PictureEntry* entry = findEntry(groups, name);
-    return (entry ? entry->subModule : _module) + "/" + name;
+void CColorAndPictureManagerPage::pulsePicture(const QString& key) {
+    if (hasScreen() && isVisible() && view().composition)
+        _phone->picture().pulseParts(view().composition->partsOf(key.toStdString()));
 }
 
 void CColorAndPictureManagerPage::choosePicture(const PictureEntry& entry) {
     const std::uint64_t serial = bench().themeSerial();
-    const QString path = pictureChoice.file(window(), Text("kBatch_choose_one"), filterOf(entry));
+    const QString path = pictureChoice.file(window(), Text("kBatch_choose_one"), pictureFilter(entry.isNinePatch()));
     if (serial == bench().themeSerial() && !path.isEmpty())
         uploadPictureFile(entry, path);
 }
@@ -121,25 +110,11 @@ void CColorAndPictureManagerPage::choosePicture(const PictureEntry& entry) {
 void CColorAndPictureManagerPage::uploadPictureFile(PictureEntry entry, const QString& path) {
     if (!theme() || !QFileInfo::exists(path))
         return;
-    const std::uint64_t serial = bench().themeSerial();
-    PreparedPicture prepared;
-    {
-        ZProgressDialog dialog(Text("kIcon_Simple_BatchUpload_Loading"), window());
-        dialog.showLate();
-        static_cast<void>(dialog.run([&](const Progress&) {
-            prepared = preparePicture(entry, path.toStdString(), _batch->compiler, workspaceFolder());
-            return true;
-        }));
-    }
-    if (!theme() || serial != bench().themeSerial())
-        return;
-    const PictureRefusal refusal = finishUpload(*theme(), entry, path.toStdString(), prepared, {});
-    if (!refusal.isNone())
-        return tellNote(window(), refusal.message, refusal.arguments);
-    _batch->problemFiles.erase(entry.name);
-    entry.failed = false;
-    entry.error.clear();
-    entryChanged(entry);
+    const UploadResult uploaded = _batch->upload(window(), entry, path.toStdString());
+    if (uploaded.isStored)
+        entryChanged(entry);
+    else if (!uploaded.refusal.isNone())
+        tellNote(window(), uploaded.refusal.message, uploaded.refusal.arguments);
 }
 
 void CColorAndPictureManagerPage::resetEntry(PictureEntry entry) {
@@ -150,17 +125,15 @@ void CColorAndPictureManagerPage::resetEntry(PictureEntry entry) {
         return;
     if (!theme() || serial != bench().themeSerial())
         return;
-    if (const int code = resetPicture(*theme(), entry, {}))
+    if (const int code = resetPicture(*theme(), entry, _batch->pictureChanged))
         return tellNote(window(), codeKey(code));
-    _batch->problemFiles.erase(entry.name);
-    entry.failed = false;
-    entry.error.clear();
+    _batch->forget(entry);
     entryChanged(entry);
 }
 
 void CColorAndPictureManagerPage::savePicture(const PictureEntry& entry) {
     const QString path =
-        pictureChoice.save(window(), Text("kPicture_save"), filterOf(entry), QString::fromStdString(entry.name));
+        pictureChoice.save(window(), Text("kPicture_save"), pictureFilter(entry.isNinePatch()), QString::fromStdString(entry.name));
     if (path.isEmpty())
         return;
     const PictureRefusal refusal = savePictureAs(entry, path.toStdString());
@@ -173,13 +146,12 @@ void CColorAndPictureManagerPage::entryChanged(const PictureEntry& entry) {
         if (view.set)
             view.set->pictures()->updateEntry(entry);
     }
-    pictureChanged(entry.name);
+    pictureChanged(entry.key());
 }
 
-void CColorAndPictureManagerPage::pictureChanged(const std::string& name) {
+void CColorAndPictureManagerPage::pictureChanged(const std::string& key) {
     if (!theme() || !hasScreen())
         return;
-    const std::string key = keyOfPicture(name);
     for (View& each : _views) {
         if (each.composition)
             each.composition->setPicture(key, pictureOf(*theme(), key));
@@ -191,7 +163,7 @@ void CColorAndPictureManagerPage::pictureChanged(const std::string& name) {
 }
 
 void CColorAndPictureManagerPage::captureScreen() {
-    if (!theme() || !hasScreen())
+    if (!theme() || !hasScreen() || !hasCapture(_module))
         return;
     const PreviewCapture capture =
         capturePreview(*theme(), workspaceFolder(), _module, _screen, composition(_screen).frame());
@@ -203,6 +175,8 @@ void CColorAndPictureManagerPage::captureScreen() {
                               "kConfirm",
                               {}},
                              Text, window());
+    if (!capture.stored)
+        return;
     emit edited();
     bench().notifications().SendNotify(this, notify::Notify_Error_List_refresh);
 }

@@ -2,6 +2,7 @@
 
 #include "editor/changedMark.h"
 #include "editor/colorSetPage.h"
+#include "editor/pictureCell.h"
 #include "editor/screenPictures.h"
 #include "editor/screenTab.h"
 #include "kit/exclusiveFocus.h"
@@ -13,6 +14,8 @@
 #include "kit/searchField.h"
 #include "kit/tokens.h"
 
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -55,6 +58,7 @@ CColorAndPictureSetPage::CColorAndPictureSetPage(const QString& name, CPaintMana
     , _stack(new QStackedWidget(this))
     , _colours(new CColorSetPage(name, notifications, this))
     , _foot(new QLabel(this)) {
+    setAcceptDrops(true);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(edge, 0, 0, 0);
     column->setSpacing(0);
@@ -169,6 +173,21 @@ void CColorAndPictureSetPage::clearFilter() {
 void CColorAndPictureSetPage::focusSearch() {
     _search->setFocus(Qt::ShortcutFocusReason);
     _search->selectAll();
+}
+
+/// What isn't taken here goes on to the window.
+void CColorAndPictureSetPage::dragEnterEvent(QDragEnterEvent* event) {
+    const bool isTaken = tab() == pictureTab && !draggedPictures(*event->mimeData()).isEmpty();
+    event->setAccepted(isTaken);
+    if (isTaken)
+        event->acceptProposedAction();
+}
+
+void CColorAndPictureSetPage::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    // The program that the files come from waits for the end of the drop.
+    QMetaObject::invokeMethod(
+        this, [this, files = draggedPictures(*event->mimeData())] { emit filesDropped(files); }, Qt::QueuedConnection);
 }
 
 void CColorAndPictureSetPage::setGrid(bool isGrid) {

@@ -3,6 +3,7 @@
 #include "editor/colourItems.h"
 #include "editor/pictureEntry.h"
 
+#include <QStringList>
 #include <QWidget>
 
 #include <string>
@@ -58,6 +59,12 @@ public:
 signals:
     /// The author wants the other of the two.
     void gridChosen(bool isGrid);
+    /// Files were dropped beside the pictures, while these are shown.
+    void filesDropped(const QStringList& files);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void relabel();

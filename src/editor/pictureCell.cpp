@@ -7,8 +7,11 @@
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace zdt {
 
@@ -18,7 +21,7 @@ PictureCell::PictureCell(QWidget* parent)
 }
 
 void PictureCell::dragEnterEvent(QDragEnterEvent* event) {
-    if (draggedFiles(*event->mimeData()).isEmpty())
+    if (draggedPictures(*event->mimeData()).isEmpty())
         return;
     event->acceptProposedAction();
     _isDropTarget = true;
@@ -34,7 +37,7 @@ void PictureCell::dropEvent(QDropEvent* event) {
     _isDropTarget = false;
     update();
     event->acceptProposedAction();
-    emit filesDropped(draggedFiles(*event->mimeData()));
+    emit filesDropped(draggedPictures(*event->mimeData()));
 }
 
 PictureHead::PictureHead(int side, QWidget* parent)
@@ -68,6 +71,16 @@ void PictureHead::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), token::bar);
     painter.fillRect(QRect(0, height() - 1, width(), 1), token::hairline);
+}
+
+QStringList draggedPictures(const QMimeData& data) {
+    QStringList files = draggedFiles(data);
+    const auto isTheme = [](const QString& path) {
+        return path.endsWith(".zdt", Qt::CaseInsensitive) || QFileInfo(path + "/description.xml").isFile();
+    };
+    if (std::any_of(files.begin(), files.end(), isTheme))
+        files.clear();
+    return files;
 }
 
 QString pictureTip(const PictureCellContent& content) {

@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QWidget>
 
+class QMimeData;
+
 namespace zdt {
 
 /// What a cell shows of a picture.
@@ -62,6 +64,9 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
 };
+
+/// The files and folders that are dragged; none where a theme is among them, which is for the window to take.
+[[nodiscard]] QStringList draggedPictures(const QMimeData& data);
 
 /// What a tip says of a picture: what it is, its file and its size.
 [[nodiscard]] QString pictureTip(const PictureCellContent& content);

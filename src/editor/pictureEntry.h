@@ -13,7 +13,7 @@ namespace zdt {
 struct PictureEntry {
     std::string module;       ///< Of the page: "launcher", …, or "commonSetting".
     std::string subModule;    ///< Whose picture it is: as `module`, or "phone" on a page of the contacts.
-    std::string name;         ///< Of the file in the theme, such as "folder_add_icon.png". It is the key of the row.
+    std::string name;         ///< Of the file in the theme, such as "folder_add_icon.png". It names the row's controls.
     QString text;             ///< What the picture is, in the language of the moment.
     QString sizeHint;         ///< "168*168", or words that there is no rule; empty for a nine-patch.
     std::string format;       ///< ".png" or ".9.png".
@@ -22,6 +22,8 @@ struct PictureEntry {
     QString error;            ///< Why, in the language of that moment.
     std::vector<KeyPlace> places; ///< Its files that take part in the theme, the first of which is shown.
 
+    /// What tells it from all others: "<sub-module>/<name>". The layers of screens name it so too.
+    [[nodiscard]] std::string key() const { return subModule + "/" + name; }
     [[nodiscard]] bool isNinePatch() const { return format == ".9.png"; }
     /// The path of the file that is shown; empty for none.
     [[nodiscard]] const std::string& file() const { return places.front().value; }
@@ -34,7 +36,7 @@ struct PictureGroup {
     std::vector<PictureEntry> entries;
 };
 
-/// The entry of a key; null if no group has it.
+/// The first entry of a name; null if no group has it.
 [[nodiscard]] inline PictureEntry* findEntry(std::vector<PictureGroup>& groups, const std::string& name) {
     for (PictureGroup& group : groups) {
         for (PictureEntry& entry : group.entries) {

@@ -10,6 +10,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -29,6 +30,7 @@ constexpr int buttonHeight = 28;
 constexpr int buttonWidth = 76;
 constexpr int dotSide = 6;
 constexpr int signSide = 14;
+constexpr int pathHeight = 18;
 /// The least room at the right of a row beside a scroll bar.
 constexpr int leastPadding = 6;
 
@@ -63,7 +65,8 @@ CPictureItem::CPictureItem(QWidget* parent)
     , _reset(new QPushButton(this))
     , _upload(new QPushButton(this))
     , _errorSign(new QLabel(this))
-    , _error(elided(this, "pictureError", "small")) {
+    , _error(elided(this, "pictureError", "small"))
+    , _path(new QLineEdit(this)) {
     makeControls();
     auto* nameRow = new QHBoxLayout;
     nameRow->setSpacing(6);
@@ -85,6 +88,7 @@ CPictureItem::CPictureItem(QWidget* parent)
     column->addLayout(nameRow);
     column->addLayout(buttonRow);
     column->addLayout(errorRow);
+    column->addWidget(_path);
     column->addStretch();
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(padding, top, padding, 0);
@@ -114,6 +118,16 @@ void CPictureItem::makeControls() {
     _errorSign->setPixmap(iconPixmap(Icon::Error, token::danger, signSide, devicePixelRatioF()));
     _errorSign->setFixedWidth(signSide);
     _error->setProperty("state", "error");
+    _path->setObjectName("picturePath");
+    _path->setProperty("kind", "path");
+    _path->setReadOnly(true);
+    _path->setFrame(false);
+    _path->setTextMargins({});
+    _path->setFixedHeight(pathHeight);
+    // What is dropped on it is for the row.
+    _path->setAcceptDrops(false);
+    _path->setFocusPolicy(Qt::NoFocus);
+    _path->setContextMenuPolicy(Qt::NoContextMenu);
     _thumbnail->setObjectName("pictureThumbnail");
     _thumbnail->setCursor(Qt::PointingHandCursor);
     connect(_thumbnail, &PictureThumbnail::clicked, this, &PictureCell::saveClicked);
@@ -152,6 +166,11 @@ void CPictureItem::fill(const PictureCellContent& content, Thumbnails& thumbnail
     _errorSign->setVisible(_isFailed);
     _error->setVisible(_isFailed);
     _error->setText(entry.error);
+    _given = QString::fromStdString(entry.uploadedPath);
+    _path->setVisible(!_given.isEmpty() && !_isFailed);
+    _path->setToolTip(_given.toHtmlEscaped());
+    _path->setAccessibleName(TextWith("kPicture_given", _given));
+    showPath();
     showReset();
     update();
 }
@@ -171,12 +190,22 @@ void CPictureItem::showReset() {
     _reset->setVisible(_isChanged && (_state.hovered || _state.current));
 }
 
+void CPictureItem::showPath() {
+    const int begin = padding + thumbnailSide + gap;
+    // A line edit keeps a pixel or two at its ends for the cursor.
+    constexpr int cursorRoom = 8;
+    const int room = width() - begin - layout()->contentsMargins().right() - cursorRoom;
+    _path->setText(_path->fontMetrics().elidedText(_given, Qt::ElideRight, room));
+    _path->setCursorPosition(0);
+}
+
 /// The controls stay where they are when a scroll bar comes.
 void CPictureItem::resizeEvent(QResizeEvent* event) {
     PictureCell::resizeEvent(event);
     const QWidget* view = parentWidget() ? parentWidget()->parentWidget() : nullptr;
     const int bar = view ? std::max(0, view->width() - width()) : 0;
     layout()->setContentsMargins(padding, top, std::max(leastPadding, padding - bar), 0);
+    showPath();
 }
 
 void CPictureItem::paintEvent(QPaintEvent*) {

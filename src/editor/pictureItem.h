@@ -3,6 +3,7 @@
 #include "editor/pictureCell.h"
 
 class QLabel;
+class QLineEdit;
 class QPushButton;
 
 namespace zdt {
@@ -12,14 +13,14 @@ class ZBadge;
 class ZElidedLabel;
 
 /// A row of the list of pictures. Children: `pictureName`, `pictureSize`, `pictureFormat`, `pictureError`,
-/// `pictureReset`; the button that uploads has the name that the content gives.
+/// `picturePath`, `pictureReset`; the button that uploads has the name that the content gives.
 class CPictureItem : public PictureCell {
     Q_OBJECT
 
 public:
     /// Logical pixels, the hairline below included.
     static constexpr int plainHeight = 77;
-    static constexpr int failedHeight = 99;
+    static constexpr int tallHeight = 99; ///< With an error, or the path that was given.
 
     explicit CPictureItem(QWidget* parent);
 
@@ -34,6 +35,8 @@ protected:
 private:
     void makeControls();
     void showReset();
+    /// As much of the path as there is room for.
+    void showPath();
 
     PictureThumbnail* _thumbnail;
     ZElidedLabel* _name;
@@ -44,6 +47,8 @@ private:
     QPushButton* _upload;
     QLabel* _errorSign;
     ZElidedLabel* _error;
+    QLineEdit* _path;
+    QString _given; ///< The path that the author gave; empty for none.
     CellState _state;
     bool _isChanged = false;
     bool _isFailed = false;

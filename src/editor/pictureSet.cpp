@@ -1,6 +1,5 @@
 #include "editor/pictureSet.h"
 
-#include "editor/previewCard.h"
 #include "editor/keyWords.h"
 #include "kit/cellView.h"
 #include "kit/emptyState.h"
@@ -59,6 +58,10 @@ void PictureSet::setView(CellView* view) {
     column->addWidget(view);
     column->addWidget(_empty);
     connect(view, &CellView::activated, this, [this](int index) { ask(index, &PictureSet::uploadRequested); });
+    connect(view, &CellView::currentChanged, this, [this](int index) {
+        if (const PictureEntry* entry = _source->entryAt(index))
+            emit chosen(QString::fromStdString(entry->key()));
+    });
     connect(view, &CellView::menuRequested, this, &PictureSet::showMenu);
     retell();
 }
@@ -97,7 +100,7 @@ void PictureSet::showMenu(int index, const QPoint& position) {
     if (!entry)
         return;
     const bool isChanged = _source->isChanged(*entry);
-    const std::string key = entry->name;
+    const std::string key = entry->key();
     QMenu menu(this);
     const QAction* upload = menu.addAction(Text(isChanged ? "replace_file" : "file_load"));
     const QAction* save = menu.addAction(Text("kPicture_save"));
@@ -162,13 +165,13 @@ void PictureSet::hideEvent(QHideEvent* event) {
 }
 
 void PictureSet::dragEnterEvent(QDragEnterEvent* event) {
-    if (!draggedFiles(*event->mimeData()).isEmpty())
+    if (!draggedPictures(*event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 
 void PictureSet::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
-    const QStringList files = draggedFiles(*event->mimeData());
+    const QStringList files = draggedPictures(*event->mimeData());
     QMetaObject::invokeMethod(
         this, [this, files] { emit batchDropped(files); }, Qt::QueuedConnection);
 }

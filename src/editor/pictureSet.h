@@ -33,6 +33,8 @@ public:
     [[nodiscard]] int entryCount() const { return _source->entryCount(); }
     /// As far as is known; `counted` follows when more is.
     [[nodiscard]] int changedCount() const { return _source->changedCount(); }
+    /// Of the picture that is pointed at, "<sub-module>/<name>"; empty for none.
+    [[nodiscard]] const QString& hoveredKey() const { return _source->hoveredKey(); }
     /// Scrolls to a picture and makes it current.
     void showPicture(const QString& key);
     /// Says all again in the language of the moment; entries bring their own words.
@@ -44,6 +46,8 @@ signals:
     void resetRequested(const zdt::PictureEntry& entry);
     /// A picture is pointed at, by the pointer or by keys.
     void hovered(const QString& key);
+    /// It became the current one.
+    void chosen(const QString& key);
     void unhovered();
     /// One file was dropped on a picture.
     void dropped(const zdt::PictureEntry& entry, const QStringList& files);

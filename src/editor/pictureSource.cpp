@@ -79,7 +79,7 @@ void PictureSource::choose() {
 void PictureSource::update(const PictureEntry& entry) {
     for (PictureGroup& group : _groups) {
         for (PictureEntry& each : group.entries) {
-            if (each.name == entry.name && each.subModule == entry.subModule)
+            if (each.key() == entry.key())
                 each = entry;
         }
     }
@@ -103,7 +103,7 @@ const PictureGroup* PictureSource::headAt(int index) const {
 int PictureSource::indexOf(const std::string& key) const {
     for (int index = 0; index < count(); ++index) {
         const PictureEntry* entry = entryAt(index);
-        if (entry && entry->name == key)
+        if (entry && entry->key() == key)
             return index;
     }
     return -1;
@@ -158,7 +158,7 @@ void PictureSource::showState(QWidget* cell, int index, const CellState& state) 
     static_cast<PictureCell*>(cell)->setState(state);
     if (state.current)
         emit currentShown(static_cast<PictureCell*>(cell));
-    const QString key = QString::fromStdString(entry->name);
+    const QString key = QString::fromStdString(entry->key());
     const auto follow = [&key](QString& which, bool isOn) {
         if (isOn)
             which = key;
@@ -200,7 +200,8 @@ int PictureSource::rowHeight(int index) const {
     const PictureEntry* entry = entryAt(index);
     if (!entry)
         return headHeight;
-    return entry->error.isEmpty() ? CPictureItem::plainHeight : CPictureItem::failedHeight;
+    const bool hasThirdLine = !entry->error.isEmpty() || !entry->uploadedPath.empty();
+    return hasThirdLine ? CPictureItem::tallHeight : CPictureItem::plainHeight;
 }
 
 void PictureSource::showFiles(const QStringList& files) {

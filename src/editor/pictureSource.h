@@ -56,6 +56,8 @@ public:
     [[nodiscard]] bool isSelectable(int index) const override { return entryAt(index) != nullptr; }
     [[nodiscard]] int rowHeight(int index) const override;
 
+    /// The key of the picture that is pointed at; empty for none.
+    [[nodiscard]] const QString& hoveredKey() const { return _told; }
     /// No row is under the pointer any more.
     void clearHover();
 

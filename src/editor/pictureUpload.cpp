@@ -5,7 +5,7 @@
 #include "editor/moduleWords.h"
 #include "editor/pictureTable.h"
 #include "editor/sizeHint.h"
-#include "kit/skinFolder.h"
+#include "kit/localisation.h"
 #include "model/returnCode.h"
 #include "packaging/pictureCheck.h"
 #include "packaging/uploadMessages.h"
@@ -52,7 +52,7 @@ PictureRefusal refusalOf(const PictureEntry& entry, const std::string& path) {
     // The theme says better what is wrong with one that can't be read.
     const bool isRead = check.width > 0 && check.height > 0;
     if (isRead && !rule.allows(check.width, check.height))
-        return {wrongSize, {}};
+        return {wrongSize, {QString("%1*%2").arg(check.width).arg(check.height), entry.sizeHint}};
     return {};
 }
 
@@ -103,6 +103,10 @@ int orAbsent(int code) {
 
 } // namespace
 
+QString pictureFilter(bool isNinePatch) {
+    return Text("kBatch_filter") + (isNinePatch ? " (*.9.png)" : " (*.png)");
+}
+
 std::string_view StoredPicture::message() const {
     const auto either = [this](int code) { return storeResult == code || pageResult == code; };
     if (code() == 0)
@@ -149,23 +153,18 @@ StoredPicture storePicture(ThemeResource& theme, const PictureEntry& entry, cons
     return stored;
 }
 
-PictureRefusal finishUpload(ThemeResource& theme, PictureEntry& entry, const std::string& path,
-                            const PreparedPicture& prepared, const PictureChanged& changed) {
+UploadResult finishUpload(ThemeResource& theme, PictureEntry& entry, const std::string& path,
+                          const PreparedPicture& prepared, const PictureChanged& changed) {
     if (!prepared.isFit())
-        return prepared.refusal;
+        return {false, prepared.refusal};
     const StoredPicture stored = storePicture(theme, entry, prepared.file, changed);
     if (stored.code() != 0)
-        return {keyOf(stored.message()), {}};
+        return {false, {keyOf(stored.message()), {}}};
     entry.uploadedPath = path;
     entry.failed = false;
     entry.error.clear();
     refreshEntry(theme, entry);
-    return {};
-}
-
-PictureRefusal uploadPicture(ThemeResource& theme, PictureEntry& entry, const std::string& path,
-                             const NinePatchCompiler& compiler, const PictureChanged& changed) {
-    return finishUpload(theme, entry, path, preparePicture(entry, path, compiler, workspaceFolder()), changed);
+    return {true, {}};
 }
 
 int resetPicture(ThemeResource& theme, PictureEntry& entry, const PictureChanged& changed) {

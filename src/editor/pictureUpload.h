@@ -20,6 +20,9 @@ class ThemeResource;
 /// store. Called with the key and the path on the interface thread.
 using PictureChanged = std::function<int(const std::string& name, const std::string& path)>;
 
+/// The files that a chooser lists, in the language of the moment.
+[[nodiscard]] QString pictureFilter(bool isNinePatch);
+
 /// Why a picture isn't taken; nothing of the theme is changed then.
 struct PictureRefusal {
     QString message;       ///< Key of the message to show; empty for none.
@@ -58,14 +61,16 @@ struct StoredPicture {
 [[nodiscard]] StoredPicture storePicture(ThemeResource& theme, const PictureEntry& entry, const std::string& file,
                                          const PictureChanged& changed);
 
+/// What became of an upload. A file that has gone is neither stored nor refused.
+struct UploadResult {
+    bool isStored = false;
+    PictureRefusal refusal;
+};
+
 /// `storePicture` of what was prepared. On success the entry has its new files, the path and no failure.
 /// @param path what the author gave
-[[nodiscard]] PictureRefusal finishUpload(ThemeResource& theme, PictureEntry& entry, const std::string& path,
-                                          const PreparedPicture& prepared, const PictureChanged& changed);
-
-/// All of it at once.
-[[nodiscard]] PictureRefusal uploadPicture(ThemeResource& theme, PictureEntry& entry, const std::string& path,
-                                           const NinePatchCompiler& compiler, const PictureChanged& changed);
+[[nodiscard]] UploadResult finishUpload(ThemeResource& theme, PictureEntry& entry, const std::string& path,
+                                        const PreparedPicture& prepared, const PictureChanged& changed);
 
 /// Puts an entry back to the template's pictures; 0 or a code of the store.
 [[nodiscard]] int resetPicture(ThemeResource& theme, PictureEntry& entry, const PictureChanged& changed);

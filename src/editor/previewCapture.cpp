@@ -7,6 +7,9 @@
 #include "store/themeResource.h"
 #include "support/files.h"
 
+#include <algorithm>
+#include <array>
+
 namespace zdt {
 
 namespace {
@@ -14,6 +17,7 @@ namespace {
 const KeyPath previewKey{"preview"};
 constexpr const char* ended = "kScreen_Capture_remind";
 constexpr std::string_view oneScreenModule = "mms";
+constexpr std::array<std::string_view, 3> captured{"contacts", oneScreenModule, "systemui"};
 constexpr int bestQuality = 80;
 constexpr int lastQuality = 20;
 constexpr int qualityStep = 10;
@@ -49,6 +53,10 @@ bool storeByQuality(ThemeResource& theme, const QImage& picture, const std::stri
 }
 
 } // namespace
+
+bool hasCapture(std::string_view module) {
+    return std::find(captured.begin(), captured.end(), module) != captured.end();
+}
 
 std::string captureName(std::string_view module, int index) {
     const int number = module == oneScreenModule ? 0 : index;

@@ -17,6 +17,9 @@ struct PreviewCapture {
     std::string file; ///< The preview in the theme; empty if none was stored.
 };
 
+/// Whether a package shows previews of the module's screens.
+[[nodiscard]] bool hasCapture(std::string_view module);
+
 /// "preview_<module>_<index>.jpg"; the messages have one preview, whatever the index.
 [[nodiscard]] std::string captureName(std::string_view module, int index);
 

@@ -16,6 +16,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace zdt {
 
 namespace {
@@ -92,14 +94,17 @@ void ScreenPictures::setFilter(const QString& text, bool changedOnly) {
         set->setFilter(text, changedOnly);
 }
 
-bool ScreenPictures::has(const std::string& name) const {
-    std::vector<PictureGroup> groups = _list->groups();
-    return findEntry(groups, name) != nullptr;
+bool ScreenPictures::has(const std::string& key) const {
+    const auto isIt = [&key](const PictureEntry& entry) { return entry.key() == key; };
+    const std::vector<PictureGroup>& groups = _list->groups();
+    return std::any_of(groups.begin(), groups.end(), [&](const PictureGroup& group) {
+        return std::any_of(group.entries.begin(), group.entries.end(), isIt);
+    });
 }
 
-void ScreenPictures::showPicture(const QString& name) {
+void ScreenPictures::showPicture(const QString& key) {
     auto* set = static_cast<PictureSet*>(_stack->currentWidget());
-    set->showPicture(name);
+    set->showPicture(key);
     set->setFocus(Qt::OtherFocusReason);
 }
 

@@ -33,8 +33,9 @@ public:
     void setGroups(const std::vector<PictureGroup>& groups);
     void updateEntry(const PictureEntry& entry);
     void setFilter(const QString& text, bool changedOnly);
-    [[nodiscard]] bool has(const std::string& name) const;
-    void showPicture(const QString& name);
+    /// By "<sub-module>/<name>".
+    [[nodiscard]] bool has(const std::string& key) const;
+    void showPicture(const QString& key);
     [[nodiscard]] int count() const;
     /// Shows the grid or the list.
     void setGrid(bool isGrid);

@@ -12,12 +12,15 @@ void ScreenStrip::setEntries(std::vector<Entry> entries) {
 }
 
 void ScreenStrip::setComposition(int index, std::shared_ptr<PreviewComposition> composition) {
+    if (!has(index))
+        return;
     _entries[static_cast<std::size_t>(index)].composition = std::move(composition);
     emit changed(index, index);
 }
 
 void ScreenStrip::setMarked(int index, bool isMarked) {
-    _entries[static_cast<std::size_t>(index)].isMarked = isMarked;
+    if (!has(index) || std::exchange(_entries[static_cast<std::size_t>(index)].isMarked, isMarked) == isMarked)
+        return;
     emit changed(index, index);
 }
 
@@ -30,6 +33,8 @@ QWidget* ScreenStrip::makeCell(int /*kind*/, QWidget* parent) {
 }
 
 void ScreenStrip::fillCell(QWidget* cell, int index) {
+    if (!has(index))
+        return;
     auto* picture = static_cast<CCDrawPictureCell*>(cell);
     const Entry& entry = _entries[static_cast<std::size_t>(index)];
     picture->setObjectName(entry.name);

@@ -26,6 +26,7 @@ public:
     using ZFlowViewDataSource::ZFlowViewDataSource;
 
     void setEntries(std::vector<Entry> entries);
+    /// Nothing for an index that isn't there: the strip is empty while its page is hidden.
     void setComposition(int index, std::shared_ptr<PreviewComposition> composition);
     void setMarked(int index, bool isMarked);
     [[nodiscard]] const std::vector<Entry>& entries() const { return _entries; }
@@ -39,6 +40,8 @@ public:
     [[nodiscard]] QString accessibleName(int index) const override;
 
 private:
+    [[nodiscard]] bool has(int index) const { return index >= 0 && index < count(); }
+
     std::vector<Entry> _entries;
 };
 

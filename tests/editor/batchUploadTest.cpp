@@ -130,14 +130,19 @@ TEST_F(BatchUploadTest, EachRunTellsItsEnd) {
 
 TEST_F(BatchUploadTest, RefusedFilesAreListedWithAWayOut) {
     const QString good = file("fitting.png", plainPng(192, 192));
-    batch.pictureChoice.ask = [&](QWidget*, const FileRequest&) { return QStringList{good}; };
+    QStringList chosen{good, QString::fromStdString(given.path("gone.png"))};
+    batch.pictureChoice.ask = [&](QWidget*, const FileRequest&) { return QStringList{chosen.takeLast()}; };
     run({file("ic_allapps.png", plainPng(10, 10)), file("nobody.png", plainPng(10, 10))}, [&](QDialog& box) {
         std::vector<PictureGroup> groups = pictureGroupsOf(*bench.theme(), "launcher");
-        batch.markProblems(groups);
+        batch.markEntries(groups);
         EXPECT_EQ(findEntry(groups, "ic_allapps.png")->error, "10*10 refused, needs 192*192");
         QTest::mouseClick(&FindControl<QPushButton>(&box, "batchCopy"), Qt::LeftButton);
         EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith("launcher/-22 ic_allapps.png\t10*10"));
         EXPECT_TRUE(QGuiApplication::clipboard()->text().contains("launcher/-1 nobody.png"));
+        QTest::mouseClick(&FindControl<QPushButton>(&box, "refusedAnother"), Qt::LeftButton);
+        QTest::qWait(0);
+        EXPECT_EQ(FindControl<QLabel>(&box, "batchSituation").text(), "Pictures stored: 0, refused: 2");
+        EXPECT_EQ(batch.problemFiles.size(), 1U) << "a file that has gone replaces nothing";
         QTest::mouseClick(&FindControl<QPushButton>(&box, "refusedAnother"), Qt::LeftButton);
         QTest::qWait(0);
         EXPECT_EQ(FindControl<QLabel>(&box, "batchSituation").text(), "Pictures stored: 1, refused: 1");

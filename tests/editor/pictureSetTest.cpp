@@ -96,7 +96,8 @@ protected:
         std::vector<PictureGroup> groups = set->groups();
         PictureEntry entry = *findEntry(groups, key);
         const std::string path = given.write("other.png", plainPng(30, 30));
-        ASSERT_TRUE(uploadPicture(*bench.theme(), entry, path, NinePatchCompiler(), {}).isNone());
+        const PreparedPicture prepared = preparePicture(entry, path, NinePatchCompiler(), workspaceFolder());
+        ASSERT_TRUE(finishUpload(*bench.theme(), entry, path, prepared, {}).isStored);
         set->updateEntry(entry);
         ASSERT_TRUE(QTest::qWaitFor([&] { return set->changedCount() == 1; }));
     }
@@ -151,7 +152,7 @@ TEST_P(PictureSetTest, FiltersLeaveWhatWasAskedFor) {
     change("dial_num_4_blk.png");
     EXPECT_EQ(shownCount(), 1);
     set->setFilter("", false);
-    set->showPicture("contact_dialpad.9.png");
+    set->showPicture("contacts/contact_dialpad.9.png");
     EXPECT_FALSE(FindControl<QWidget>(set.get(), "picturesEmpty").isVisible());
     set->setGroups({});
     EXPECT_TRUE(FindControl<QWidget>(set.get(), "picturesEmpty").isVisible());
@@ -163,7 +164,7 @@ TEST_P(PictureSetTest, CellsAreMadeForWhatIsSeen) {
     view().verticalScrollBar()->setValue(view().verticalScrollBar()->maximum());
     QTest::qWait(0);
     EXPECT_LE(view().cellCount(), few + 4);
-    set->showPicture("dial_num_1_blk.png");
+    set->showPicture("contacts/dial_num_1_blk.png");
     EXPECT_TRUE(button("dial_num_1_blk.png").isVisible());
 }
 
@@ -175,7 +176,7 @@ TEST_P(PictureSetTest, PointedPictureIsTold) {
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(cell, &enter);
     QApplication::sendEvent(cell, &leave);
-    EXPECT_EQ(asked.join(", ").toStdString(), "over dial_num_1_blk_press.png, out");
+    EXPECT_EQ(asked.join(", ").toStdString(), "over contacts/dial_num_1_blk_press.png, out");
 }
 
 TEST_P(PictureSetTest, OneDroppedFileIsForItsRowAndManyAreABatch) {

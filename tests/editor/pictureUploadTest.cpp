@@ -24,7 +24,10 @@ protected:
     }
 
     PictureRefusal upload(PictureEntry& entry, const std::string& path) {
-        return uploadPicture(*bench.theme(), entry, path, compiler, changed);
+        const PreparedPicture prepared = preparePicture(entry, path, compiler, workspaceFolder());
+        UploadResult result = finishUpload(*bench.theme(), entry, path, prepared, changed);
+        EXPECT_EQ(result.isStored, entry.uploadedPath == path);
+        return result.refusal;
     }
 
     NinePatchCompiler compiler{std::string(ZDT_TOOLS_DIR) + "aapt"};
