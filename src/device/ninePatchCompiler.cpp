@@ -4,11 +4,10 @@
 #include "support/files.h"
 #include "support/plainFile.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstdio>
 #include <cstring>
 #include <utility>
 
@@ -102,10 +101,6 @@ NinePatchCompiler::NinePatchCompiler(std::string tool, std::chrono::milliseconds
     : _tool(std::move(tool))
     , _limit(limit) {}
 
-bool NinePatchCompiler::hasTool() const {
-    return isPlainFile(_tool) && ::access(_tool.c_str(), X_OK) == 0;
-}
-
 NinePatchResult NinePatchCompiler::compile(const std::string& input, const std::string& output,
                                            const std::atomic<bool>* cancel) const {
     // Under another name the tool makes an ordinary picture of it, and says nothing.
@@ -115,20 +110,23 @@ NinePatchResult NinePatchCompiler::compile(const std::string& input, const std::
         return {NinePatchOutcome::alreadyCompiled, {}};
     if (!makeParent(output))
         return {};
+    const std::string part = output + ".part";
     ProcessRequest request;
     request.program = _tool;
     // The tool's way for many pictures hides what failed, and never ends where the folder is missing.
-    request.arguments = {"s", "-i", argumentOf(input), "-o", argumentOf(output)};
+    request.arguments = {"s", "-i", argumentOf(input), "-o", argumentOf(part)};
     request.limit = _limit;
     request.cancel = cancel;
     const ProcessResult run = runProgram(request);
     NinePatchResult result{outcomeOf(run), {}};
     if (result.outcome == NinePatchOutcome::refused)
         result.reason = ninePatchReason(run.errors);
-    if (result.outcome == NinePatchOutcome::done && !isPlainFile(output))
-        result.outcome = NinePatchOutcome::refused;
+    if (result.outcome == NinePatchOutcome::done && !isPlainFile(part))
+        result = {NinePatchOutcome::refused, ninePatchReason(run.errors)};
+    if (result.outcome == NinePatchOutcome::done && ::rename(part.c_str(), output.c_str()) != 0)
+        result.outcome = NinePatchOutcome::unreadable;
     if (!result.succeeded())
-        static_cast<void>(removeFile(output));
+        static_cast<void>(removeFile(part));
     return result;
 }
 

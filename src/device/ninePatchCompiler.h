@@ -36,10 +36,8 @@ public:
     NinePatchCompiler();
     explicit NinePatchCompiler(std::string tool, std::chrono::milliseconds limit = timeLimit);
 
-    /// Whether the tool can be run at all.
-    [[nodiscard]] bool hasTool() const;
     /// @param input a file whose name ends in ".9.png"
-    /// @param output where the compiled picture goes, whose folder is made; it is never left half-written
+    /// @param output where the compiled picture goes, whose folder is made; it comes whole or not at all
     /// @param cancel ends the run soon after it is set; may be null
     [[nodiscard]] NinePatchResult compile(const std::string& input, const std::string& output,
                                           const std::atomic<bool>* cancel = nullptr) const;

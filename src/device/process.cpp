@@ -120,7 +120,9 @@ public:
 
     [[nodiscard]] bool hasEnded() {
         int status = 0;
-        if (!_status && ::waitpid(_process, &status, WNOHANG) == _process)
+        const pid_t ended = _status ? 0 : ::waitpid(_process, &status, WNOHANG);
+        // Where ended programs aren't kept for their parent, nobody knows how they ended.
+        if (ended == _process || (ended < 0 && errno == ECHILD))
             _status = status;
         return _status.has_value();
     }

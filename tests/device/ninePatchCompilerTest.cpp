@@ -30,7 +30,6 @@ protected:
 
 TEST_F(NinePatchCompilerTest, GoodOneIsCompiledAndPassesTheNextTime) {
     const std::string input = folder.write("a b;'.9.png", rawNinePatch());
-    ASSERT_TRUE(compiler.hasTool());
     EXPECT_FALSE(isCompiledNinePatch(input));
     EXPECT_EQ(compiler.compile(input, output).outcome, done);
     EXPECT_TRUE(isCompiledNinePatch(output));
@@ -69,7 +68,6 @@ TEST_F(NinePatchCompilerTest, BadInputsAreToldApartAndLeaveNothing) {
 TEST_F(NinePatchCompilerTest, ToolsThatFailAreToldApart) {
     const std::string input = folder.write("in.9.png", rawNinePatch());
     EXPECT_EQ(NinePatchCompiler(folder.path("none")).compile(input, output).outcome, missingTool);
-    EXPECT_FALSE(NinePatchCompiler(folder.path("none")).hasTool());
     EXPECT_EQ(NinePatchCompiler(folder.write("noRights", "x")).compile(input, output).outcome, missingTool);
     const std::string slow = script("slow", "echo part > \"$5\"; sleep 60");
     EXPECT_EQ(NinePatchCompiler(slow, 100ms).compile(input, output).outcome, timedOut);

@@ -76,6 +76,16 @@ TEST(ProcessTest, OutputIsBounded) {
     EXPECT_EQ(result.errors, "end");
 }
 
+TEST(ProcessTest, ProgramThatNobodyWaitsForHasEndedToo) {
+    const auto before = ::signal(SIGCHLD, SIG_IGN);
+    ProcessRequest request = shell("echo done");
+    request.limit = 60s;
+    const ProcessResult result = runProgram(request);
+    ::signal(SIGCHLD, before);
+    EXPECT_TRUE(result.succeeded());
+    EXPECT_EQ(result.output, "done\n");
+}
+
 TEST(ProcessTest, HangingProgramIsKilledWithItsChildren) {
     const TemporaryFolder folder;
     const std::string mark = folder.path("late");
