@@ -4,6 +4,7 @@
 #include "packaging/gifFrames.h"
 #include "packaging/pictureCheck.h"
 #include "packaging/uploadMessages.h"
+#include "support/files.h"
 
 #include <ctime>
 #include <string_view>
@@ -15,7 +16,7 @@ namespace {
 constexpr std::string_view unreadable = "KWarn_upload_JPGPNG";
 
 FrameFiles refused(std::string_view message) {
-    return {{}, QString::fromUtf8(message.data(), static_cast<qsizetype>(message.size()))};
+    return {{}, QString::fromUtf8(message.data(), static_cast<qsizetype>(message.size())), {}};
 }
 
 /// The message of a check that doesn't pass; a picture that can't be read passes those.
@@ -36,32 +37,46 @@ FrameFiles takeGif(const std::string& file, std::size_t present, const std::stri
     GifFrames extracted = ExtractGifFrames(file, workspace, gifTimeText(std::time(nullptr)), progress);
     if (extracted.paths.empty())
         return refused(extracted.message.empty() ? "kProblem_3" : extracted.message);
-    return {std::move(extracted.paths), {}};
+    return {std::move(extracted.paths), {}, {}};
+}
+
+PictureCheck checkFrame(const std::string& file) {
+    return CheckPictureOrGifUpload(file, false, pictureLimit, kWarn_upload_lessthenoneM_pic);
+}
+
+void takeStill(const std::string& file, bool isOneOfSeveral, FrameFiles& taken) {
+    const PictureCheck check = checkFrame(file);
+    const std::string_view message = messageOf(check);
+    if (message.empty()) {
+        taken.frames.push_back(file);
+    } else if (taken.leftOut.empty()) {
+        taken.message = QString::fromUtf8(message.data(), static_cast<qsizetype>(message.size()));
+        taken.leftOut = isOneOfSeveral ? fileName(file) : std::string();
+    }
 }
 
 } // namespace
 
 FrameFiles takeFrames(const std::vector<std::string>& files, std::size_t present, int mode,
                       const std::string& workspace, const Progress& progress) {
-    for (const std::string& file : files) {
-        const PictureCheck check = CheckPictureOrGifUpload(file, false, pictureLimit, kWarn_upload_lessthenoneM_pic);
-        if (const std::string_view message = messageOf(check); !message.empty())
-            return refused(message);
-    }
     if (const std::string_view message = CheckFrameSelection(files); !message.empty())
         return refused(message);
-    if (files.size() == 1 && hasGifEnding(files.front()))
-        return takeGif(files.front(), present, workspace, progress);
+    if (files.size() == 1 && hasGifEnding(files.front())) {
+        const PictureCheck check = checkFrame(files.front());
+        const std::string_view message = messageOf(check);
+        return message.empty() ? takeGif(files.front(), present, workspace, progress) : refused(message);
+    }
     const FrameIntake intake = takeStills(present, files.size(), mode);
     FrameFiles taken = refused(intake.message);
-    taken.frames.assign(files.begin(), files.begin() + static_cast<std::ptrdiff_t>(intake.taken));
+    for (std::size_t at = 0; at < intake.taken; ++at)
+        takeStill(files[at], files.size() > 1, taken);
     return taken;
 }
 
 FrameFiles takeFrame(const std::string& file) {
     const PictureCheck check = CheckPictureUpload(file, false, pictureLimit, kWarn_upload_lessthenoneM_pic);
     const std::string_view message = messageOf(check);
-    return message.empty() ? FrameFiles{{file}, {}} : refused(message);
+    return message.empty() ? FrameFiles{{file}, {}, {}} : refused(message);
 }
 
 } // namespace zdt

@@ -14,6 +14,7 @@ namespace zdt {
 struct FrameFiles {
     std::vector<std::string> frames; ///< To be added, in order.
     QString message;                 ///< Key of the message to show; it may come with frames.
+    std::string leftOut;             ///< The name of the first of several that wasn't taken; the message says why.
 };
 
 /// Tests files for a strip and takes the frames out of a GIF, which takes a while. Any thread may call it.

@@ -100,7 +100,9 @@ void ZResPicturePage::addFiles(const QStringList& files) {
     _files.insert(_files.end(), taken.frames.begin(), taken.frames.end());
     if (!taken.frames.empty())
         change();
-    if (!taken.message.isEmpty())
+    if (!taken.leftOut.empty())
+        tellNote(window(), "kFrames_left_out", {QString::fromStdString(taken.leftOut), Text(taken.message)});
+    else if (!taken.message.isEmpty())
         tellNote(window(), taken.message);
 }
 

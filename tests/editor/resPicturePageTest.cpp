@@ -136,6 +136,11 @@ TEST_F(ResPicturePageTest, BadFilesAreRefusedWithTheirMessage) {
         EXPECT_TRUE(taken.frames.empty());
     }
     EXPECT_EQ(takeFrames({given.path("gone.png")}, 0, 0, given.path()).message, "KWarn_upload_JPGPNG");
+    const std::string good = given.write("good.png", plainPng(4, 4));
+    const FrameFiles some = takeFrames({given.path("a.png"), good, given.path("b.png")}, 0, 0, given.path());
+    EXPECT_EQ(some.frames, std::vector<std::string>{good});
+    EXPECT_EQ(some.leftOut, "a.png");
+    EXPECT_EQ(some.message, "kWarn_upload_lessthenoneM_pic");
     EXPECT_FALSE(takeFrame(given.write("e.gif", gif(1))).message.isEmpty());
 }
 
