@@ -1,6 +1,7 @@
 #include "canvas/placeStack.h"
 
 #include "canvas/previewComposition.h"
+#include "canvas/screens/screenLayer.h"
 
 #include <algorithm>
 #include <set>
@@ -17,6 +18,15 @@ std::vector<std::string> keysOf(const PreviewComposition& composition, const std
     for (const std::size_t part : parts)
         keys.push_back(composition.parts()[part].key);
     return keys;
+}
+
+/// Whether a point means a small part whose strokes it may miss: that of a text or a sign.
+bool isAround(const QRect& ink, const QPoint& at) {
+    constexpr int air = 9;
+    constexpr int largest = phoneWidth * phoneHeight / 24;
+    if (ink.isEmpty() || ink.width() * ink.height() > largest)
+        return false;
+    return ink.adjusted(-air, -air, air, air).contains(at);
 }
 
 /// Leaves the first part of each key, and none without one.
@@ -46,7 +56,12 @@ bool PlaceStack::isAtClick(const QPoint& point) const {
 }
 
 std::vector<std::size_t> keyedPartsAt(PreviewComposition& composition, const QPoint& at) {
-    std::vector<std::size_t> parts = composition.partsAt(at);
+    const std::vector<std::size_t> painted = composition.partsAt(at);
+    std::vector<std::size_t> parts;
+    for (std::size_t part = composition.parts().size(); part-- > 0;) {
+        if (std::find(painted.begin(), painted.end(), part) != painted.end() || isAround(composition.inkOf(part), at))
+            parts.push_back(part);
+    }
     keepFirstOfKeys(composition, parts);
     return parts;
 }

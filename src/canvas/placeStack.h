@@ -31,7 +31,8 @@ private:
     std::size_t _depth = 0;
 };
 
-/// The topmost parts of each key at a point of the frame, the topmost key first.
+/// The topmost parts of each key at a point of the frame, the topmost key first. A small part, such as a text, is also
+/// meant by a point between its strokes and a little beside them.
 [[nodiscard]] std::vector<std::size_t> keyedPartsAt(PreviewComposition& composition, const QPoint& at);
 
 /// For the keyboard: of each key the visible part that is read first, from the top left to the bottom right.

@@ -3,11 +3,13 @@
 #include "canvas/frameScaler.h"
 #include "canvas/imagePoints.h"
 #include "canvas/overlayPainting.h"
+#include "canvas/placeStack.h"
 #include "canvas/shapes.h"
 #include "support/files.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <random>
 
@@ -109,6 +111,15 @@ TEST_F(PreviewCompositionTest, ChangeMarksTheInkOfItsPartsAlone) {
     composition.setColour("none", 0xff000000);
     EXPECT_TRUE(composition.isComposed());
     EXPECT_EQ(composition.changedSince(0), QRegion(previewFrame));
+}
+
+TEST_F(PreviewCompositionTest, ASmallPartIsMeantBetweenAndBesideItsStrokes) {
+    composition.setDescription(described());
+    ASSERT_EQ(composition.partsAt({101, 101}), Indices{0});
+    const Indices meant = keyedPartsAt(composition, {101, 101});
+    EXPECT_NE(std::find(meant.begin(), meant.end(), std::size_t{1}), meant.end());
+    const Indices beyond = keyedPartsAt(composition, {93, 101});
+    EXPECT_EQ(std::find(beyond.begin(), beyond.end(), std::size_t{1}), beyond.end());
 }
 
 TEST_F(PreviewCompositionTest, PartsAreFoundWhereTheyPaint) {
