@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <set>
+#include <system_error>
 #include <vector>
 
 namespace zdt::assets {
@@ -62,14 +63,21 @@ bool removeOthers(const std::string& folder, const std::vector<Job>& jobs) {
     if (!isFolder(folder))
         return true;
     std::vector<std::string> gone;
+    std::vector<fs::path> folders;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
-        if (entry.is_regular_file() && !wanted.contains(entry.path().lexically_normal().string()))
+        if (entry.is_directory())
+            folders.push_back(entry.path());
+        else if (!wanted.contains(entry.path().lexically_normal().string()))
             gone.push_back(entry.path().string());
     }
     for (const std::string& path : gone) {
         if (!removeFile(path))
             return complain(path);
     }
+    // One that still holds something stays.
+    std::error_code stays;
+    for (auto each = folders.rbegin(); each != folders.rend(); ++each)
+        fs::remove(*each, stays);
     return true;
 }
 

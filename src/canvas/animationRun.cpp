@@ -1,42 +1,51 @@
 #include "canvas/animationRun.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace zdt {
 
-namespace {
-
-bool staysFinished(const ItemAnimation* animation) {
-    return animation->finished() && animation->interval() < 0 && !animation->loop();
-}
-
-} // namespace
-
 ItemAnimation::~ItemAnimation() = default;
 
-void AnimationRun::start(std::vector<ItemAnimation*> animations, std::int64_t now) {
-    stop();
-    _animations = std::move(animations);
+bool ItemAnimation::isOver() const {
+    return finished() && interval() < 0 && !loop();
+}
+
+void ItemAnimation::rewind() {
+    _waited = 0;
+    reset();
+}
+
+bool ItemAnimation::waits() {
+    if (loop() || _waited >= interval())
+        return false;
+    _waited += animationTick;
+    return true;
+}
+
+void ItemAnimation::step() {
+    if (finished()) {
+        if (isOver() || waits())
+            return;
+        rewind();
+    }
+    advance();
+}
+
+void AnimationRun::start(const ItemAnimations& animations, std::int64_t now) {
+    stop(animations);
     _due = now + animationTick;
     _playing = true;
 }
 
-void AnimationRun::stop() {
-    for (ItemAnimation* animation : _animations)
-        animation->reset();
-    _animations.clear();
+void AnimationRun::stop(const ItemAnimations& animations) {
+    std::ranges::for_each(animations, &ItemAnimation::rewind);
     _playing = false;
 }
 
-bool AnimationRun::isOver() const {
-    return std::ranges::all_of(_animations, staysFinished);
-}
-
-AnimationRun::Pass AnimationRun::pass(std::int64_t now) {
+AnimationRun::Pass AnimationRun::pass(const ItemAnimations& animations, std::int64_t now) {
     if (!_playing)
         return Pass::unchanged;
-    if (isOver()) {
+    if (std::ranges::all_of(animations, &ItemAnimation::isOver)) {
         _playing = false;
         return Pass::ended;
     }
@@ -46,13 +55,7 @@ AnimationRun::Pass AnimationRun::pass(std::int64_t now) {
     _due += animationTick;
     if (_due <= now)
         _due = now + animationTick;
-    for (ItemAnimation* animation : _animations) {
-        if (staysFinished(animation))
-            continue;
-        if (animation->finished())
-            animation->reset();
-        animation->advance();
-    }
+    std::ranges::for_each(animations, &ItemAnimation::step);
     return Pass::changed;
 }
 

@@ -28,38 +28,52 @@ public:
     ItemAnimation(const ItemAnimation&) = delete;
     ItemAnimation& operator=(const ItemAnimation&) = delete;
 
-    /// Goes on by one step of `animationTick`.
+    /// Goes on by one step of `animationTick`, within one run. The pauses between runs are no business of it.
     virtual void advance() = 0;
+    /// Whether the present run is over.
     [[nodiscard]] virtual bool finished() const = 0;
-    /// Milliseconds between two runs; below 0 for a single one.
+    /// Milliseconds between the end of a run and the next; below 0 for a single run.
     [[nodiscard]] virtual int interval() const = 0;
+    /// Whether it begins again at once, whatever the interval.
     [[nodiscard]] virtual bool loop() const = 0;
     /// Back to the beginning.
     virtual void reset() = 0;
     /// Adds what it does at this moment.
     virtual void apply(AnimatedLook& look) const = 0;
+
+    /// One step of what plays: goes on, waits for the next run with the look of the last one's end, or begins again.
+    void step();
+    /// Whether it has finished for good.
+    [[nodiscard]] bool isOver() const;
+    /// Back to the beginning, out of a pause too.
+    void rewind();
+
+private:
+    [[nodiscard]] bool waits();
+
+    std::int64_t _waited = 0; ///< Milliseconds since the present run ended.
 };
 
-/// What plays on a canvas. Times are milliseconds of any steady clock.
+/// Those that play on a canvas: found anew for each pass, so that an item may gain and lose some meanwhile.
+using ItemAnimations = std::vector<ItemAnimation*>;
+
+/// When what plays goes on. Times are milliseconds of any steady clock.
 class AnimationRun {
 public:
     /// What a pass found.
     enum class Pass { unchanged, changed, ended };
 
-    /// Begins with all animations, which live until `stop`.
-    void start(std::vector<ItemAnimation*> animations, std::int64_t now);
-    /// Resets them and forgets them.
-    void stop();
+    /// Begins with all of them at their beginnings.
+    void start(const ItemAnimations& animations, std::int64_t now);
+    /// Ends, with all of them back at their beginnings.
+    void stop(const ItemAnimations& animations);
     [[nodiscard]] bool isPlaying() const { return _playing; }
 
-    /// Looks at everything once: goes on by a step if one is due, and begins again what has finished and repeats.
-    /// `ended` once, when all has finished for good; nothing is reset then, so that the last look stays.
-    [[nodiscard]] Pass pass(std::int64_t now);
+    /// Looks at everything once: goes on by a step if one is due. `ended` once, when all has finished for good; that
+    /// leaves them at their ends.
+    [[nodiscard]] Pass pass(const ItemAnimations& animations, std::int64_t now);
 
 private:
-    [[nodiscard]] bool isOver() const;
-
-    std::vector<ItemAnimation*> _animations;
     std::int64_t _due = 0; ///< The time of the next step.
     bool _playing = false;
 };

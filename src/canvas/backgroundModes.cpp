@@ -20,7 +20,12 @@ std::optional<BackgroundPlace> fromSource(const QSize& picture, const Background
     const QRectF source = wanted & QRectF(QPointF(), picture);
     if (width <= 0 || part.height() <= 0 || source.isEmpty())
         return std::nullopt;
-    return BackgroundPlace{source, QRectF(QPointF(), space.size())};
+    // What of it lies outside the picture keeps its place, undrawn, so that nothing is distorted.
+    const double x = space.size().width() / wanted.width();
+    const double y = space.size().height() / wanted.height();
+    return BackgroundPlace{
+        source,
+        {(source.x() - wanted.x()) * x, (source.y() - wanted.y()) * y, source.width() * x, source.height() * y}};
 }
 
 BackgroundPlace kept(const QSize& picture, bool cropTop) {

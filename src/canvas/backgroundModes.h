@@ -16,8 +16,9 @@ struct BackgroundModes {
     bool fit = false;      ///< Scaled to the height of the screen.
     bool fitAlternate = false;
     bool noZoom = false; ///< Without the zoom with which the phone shows a lock screen.
-    std::optional<EdgeRect> source =
-        std::nullopt; ///< The part of the picture that fills the screen, whatever the rest says.
+    /// The part of the picture that fills the screen, whatever the rest says; where it reaches beyond the picture the
+    /// screen stays empty.
+    std::optional<EdgeRect> source = std::nullopt;
 
     friend bool operator==(const BackgroundModes&, const BackgroundModes&) = default;
 };

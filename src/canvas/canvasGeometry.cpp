@@ -14,6 +14,11 @@ int limited(std::int64_t value) {
     return static_cast<int>(std::clamp<std::int64_t>(value, -farthest, farthest));
 }
 
+/// Before the cast: a document may give an item any ratio, and what it leads to need not fit a whole number.
+int rounded(double value) {
+    return static_cast<int>(std::lround(std::clamp<double>(value, -farthest, farthest)));
+}
+
 bool isLeft(Corner corner) {
     return corner == Corner::topLeft || corner == Corner::bottomLeft;
 }
@@ -53,8 +58,7 @@ EdgeRect resizedInRatio(const EdgeRect& rect, const ResizeRule& rule, int wanted
     // What is below the smallest side already isn't made larger by a hand that makes it smaller.
     const double least = std::min(1.0, std::max(minItemSide / width, minItemSide / height));
     const double factor = std::max(least, std::min(wantedWidth / width, room / height));
-    return withSize(rect, rule.corner, static_cast<int>(std::lround(width * factor)),
-                    static_cast<int>(std::lround(height * factor)));
+    return withSize(rect, rule.corner, rounded(width * factor), rounded(height * factor));
 }
 
 } // namespace
@@ -68,7 +72,9 @@ EdgeRect EdgeRect::grownBy(int margin) const {
 }
 
 EdgeRect EdgeRect::movedBy(const QPoint& way) const {
-    return bounded({left + way.x(), top + way.y(), right + way.x(), bottom + way.y()});
+    const std::int64_t x = way.x();
+    const std::int64_t y = way.y();
+    return {limited(left + x), limited(top + y), limited(right + x), limited(bottom + y)};
 }
 
 EdgeRect bounded(const EdgeRect& rect) {
@@ -147,8 +153,8 @@ EdgeRect resizedPart(const EdgeRect& part, const EdgeRect& groupBefore, const Ed
     if (part.width() <= 0 || groupBefore.width() <= 0)
         return part;
     const double factor = static_cast<double>(groupAfter.width()) / groupBefore.width();
-    const int width = limited(std::lround(part.width() * factor));
-    const int height = limited(std::lround(part.height() * factor));
+    const int width = rounded(part.width() * factor);
+    const int height = rounded(part.height() * factor);
     const int left = groupAfter.left + (groupAfter.width() - width) / 2;
     const int top = groupAfter.top + (groupAfter.height() - height) / 2;
     return bounded({left, top, left + width, top + height});

@@ -25,12 +25,6 @@ std::intptr_t nextId() {
 
 } // namespace
 
-TextAlign textAlignOf(const std::string& align) {
-    if (align == "center")
-        return TextAlign::center;
-    return align == "right" ? TextAlign::right : TextAlign::left;
-}
-
 EdgeRect boundsOf(const ItemPlaces& places) {
     EdgeRect all = places.rect;
     for (const ItemPlaces& part : places.parts) {
@@ -77,11 +71,8 @@ void CDrawItem::setPlaces(const ItemPlaces& places) {
     _rect = places.rect;
 }
 
-std::vector<ItemAnimation*> CDrawItem::allAnimations() const {
-    std::vector<ItemAnimation*> all;
-    for (const auto& animation : animations)
-        all.push_back(animation.get());
-    return all;
+ItemAnimations CDrawItem::allAnimations() const {
+    return {};
 }
 
 bool CDrawItem::setPicture(const std::string& path) {
@@ -112,6 +103,13 @@ void CDrawPendant::Draw(ItemPainter& painter, bool playing) const {
         animation->apply(look);
     const ItemPainter::Animated animated(painter, transform, look.opacity);
     drawContent(painter, look.frame ? *look.frame : picture());
+}
+
+ItemAnimations CDrawPendant::allAnimations() const {
+    ItemAnimations all;
+    for (const auto& animation : animations)
+        all.push_back(animation.get());
+    return all;
 }
 
 void CDrawContainer::SetRect(const EdgeRect& rect) {
@@ -147,10 +145,10 @@ void CDrawContainer::setPlaces(const ItemPlaces& places) {
         children[index]->setPlaces(places.parts[index]);
 }
 
-std::vector<ItemAnimation*> CDrawContainer::allAnimations() const {
-    std::vector<ItemAnimation*> all = CDrawItem::allAnimations();
+ItemAnimations CDrawContainer::allAnimations() const {
+    ItemAnimations all;
     for (const auto& child : children) {
-        const std::vector<ItemAnimation*> ofChild = child->allAnimations();
+        const ItemAnimations ofChild = child->allAnimations();
         all.insert(all.end(), ofChild.begin(), ofChild.end());
     }
     return all;

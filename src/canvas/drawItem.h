@@ -19,17 +19,14 @@ namespace zdt {
 class ItemPainter;
 struct OrderFlags;
 
-enum class TextAlign { left, center, right };
-
-/// `left`, `center` or `right` as a layout says it; anything else is left.
-[[nodiscard]] TextAlign textAlignOf(const std::string& align);
+enum class ItemTextAlign { left, center, right };
 
 /// How the text of an item looks.
-struct TextStyle {
+struct ItemTextStyle {
     QString font = "Arial";
     int size = 42; ///< Height in pixels of the design space.
     QRgb color = 0xff3e3e3e;
-    TextAlign align = TextAlign::left;
+    ItemTextAlign align = ItemTextAlign::left;
 };
 
 /// Where an item and what it holds lay, to put them back.
@@ -60,7 +57,7 @@ public:
     [[nodiscard]] virtual ItemPlaces places() const;
     virtual void setPlaces(const ItemPlaces& places);
     /// The animations of the item and of what it holds.
-    [[nodiscard]] virtual std::vector<ItemAnimation*> allAnimations() const;
+    [[nodiscard]] virtual ItemAnimations allAnimations() const;
 
     /// Loads the picture, and takes its size unless `keepSize` is set. False if it can't be read; the item has none
     /// then. What is larger than two screens is kept smaller.
@@ -79,7 +76,7 @@ public:
     [[nodiscard]] OrderFlags orderFlags() const;
 
     QString text; ///< Drawn in place of a picture; empty for none.
-    TextStyle textStyle;
+    ItemTextStyle textStyle;
     int imageWidth = 0;
     int imageHeight = 0;
     bool keepSize = false; ///< `imageWidth` and `imageHeight` are the page's, whatever the picture says.
@@ -105,7 +102,6 @@ public:
     bool isVideoLayer = false; ///< Its selection has a notification of its own.
     bool isGroup = false;      ///< The children of its element follow it.
     ElementPath element;       ///< Its element in the lock screen's document; empty for none.
-    std::vector<std::unique_ptr<ItemAnimation>> animations;
 
 protected:
     /// The picture or text, without a fill.
@@ -123,6 +119,9 @@ class CDrawPendant : public CDrawItem {
 public:
     using CDrawItem::CDrawItem;
     void Draw(ItemPainter& painter, bool playing) const override;
+    [[nodiscard]] ItemAnimations allAnimations() const override;
+
+    std::vector<std::unique_ptr<ItemAnimation>> animations; ///< May change while they play.
 };
 
 /// An item that holds others, which lie in it, are drawn behind each other over its frame picture, and follow it.
@@ -134,7 +133,7 @@ public:
     void Draw(ItemPainter& painter, bool playing) const override;
     [[nodiscard]] ItemPlaces places() const override;
     void setPlaces(const ItemPlaces& places) override;
-    [[nodiscard]] std::vector<ItemAnimation*> allAnimations() const override;
+    [[nodiscard]] ItemAnimations allAnimations() const override;
 
     std::vector<std::unique_ptr<CDrawItem>> children;
     QImage framePicture; ///< Drawn over the whole rectangle; null for none.

@@ -53,15 +53,24 @@ CDrawPictrue::CDrawPictrue(QWidget* parent)
 CDrawPictrue::~CDrawPictrue() = default;
 
 void CDrawPictrue::setComposition(std::shared_ptr<PreviewComposition> composition) {
-    _pulse.stop();
-    point(std::nullopt);
-    _composition = std::move(composition);
-    _screen.forget();
-    _stack.reset();
+    dropOutlines();
     _press.reset();
+    _composition = std::move(composition);
+    _listSerial = _composition ? _composition->listSerial() : 0;
+    if (_composition && _scaled.lock() != _composition) {
+        _screen.forget();
+        _scaled = _composition;
+    }
+    update();
+}
+
+void CDrawPictrue::dropOutlines() {
+    _pulse.stop();
+    _isWalking = false;
+    point(std::nullopt);
+    _stack.reset();
     _outlined.clear();
     _pulsing.clear();
-    update();
 }
 
 /// Brings the scaled image up to date, and tells what of the widget is different.
@@ -69,7 +78,7 @@ QRegion CDrawPictrue::follow() {
     const double ratio = devicePixelRatioF();
     const QSize device(qRound(width() * ratio), qRound(height() * ratio));
     QRegion changed;
-    for (const QRect& piece : _screen.follow(*_composition, device, _radius * ratio))
+    for (const QRect& piece : _screen.follow(*_composition, device, _radius * ratio, ratio))
         changed +=
             QRectF(piece.x() / ratio, piece.y() / ratio, piece.width() / ratio, piece.height() / ratio).toAlignedRect();
     return changed;
@@ -78,6 +87,10 @@ QRegion CDrawPictrue::follow() {
 void CDrawPictrue::refresh() {
     if (!_composition)
         return;
+    if (std::exchange(_listSerial, _composition->listSerial()) != _composition->listSerial()) {
+        dropOutlines();
+        update();
+    }
     // One that isn't seen catches up when it is painted.
     if (!isVisible()) {
         update();
@@ -133,6 +146,7 @@ void CDrawPictrue::setInspecting(bool isInspecting) {
     if (_isInspecting == isInspecting)
         return;
     point(std::nullopt);
+    _stack.reset();
     _isInspecting = isInspecting;
     setMouseTracking(isInspecting);
     setFocusPolicy(isInspecting ? Qt::StrongFocus : Qt::NoFocus);
@@ -158,11 +172,8 @@ void CDrawPictrue::paintEvent(QPaintEvent* event) {
     if (const QRegion late = follow() - event->region(); !late.isEmpty())
         update(late);
     QPainter painter(this);
-    const double ratio = devicePixelRatioF();
-    for (const QRect& piece : event->region()) {
-        const QRectF source(piece.x() * ratio, piece.y() * ratio, piece.width() * ratio, piece.height() * ratio);
-        painter.drawImage(QRectF(piece), _screen.image(), source);
-    }
+    // As a whole, clipped to the region: no piece has edges of its own, which a fractional ratio would round.
+    painter.drawImage(QPoint(), _screen.image());
     if (_outlined.empty() && _pulsing.empty() && !_pointed)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
@@ -188,7 +199,9 @@ void CDrawPictrue::paintOutline(QPainter& painter, std::size_t part, double stre
     const double radius = line == inside ? std::max(_radius - 1, outlineRadius) : outlineRadius;
     painter.setOpacity(strength);
     painter.setPen(QPen(token::outlineLine, lineWidth));
-    painter.setBrush(token::outlineFill);
+    // What lies over most of the screen would hide the colour that is judged.
+    const bool isLarge = 4 * std::int64_t{place.width()} * place.height() > std::int64_t{width()} * height();
+    painter.setBrush(isLarge ? Qt::NoBrush : QBrush(token::outlineFill));
     painter.drawRoundedRect(line, radius, radius);
     painter.setOpacity(1);
 }

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -28,10 +29,11 @@ public:
     explicit CDrawPictrue(QWidget* parent = nullptr);
     ~CDrawPictrue() override;
 
-    /// Shows another composition, or none. Outlines are gone.
+    /// Shows a composition, or none. Outlines are gone; of the one that was shown last the scaled image stays.
     void setComposition(std::shared_ptr<PreviewComposition> composition);
     [[nodiscard]] const std::shared_ptr<PreviewComposition>& composition() const { return _composition; }
-    /// To be called after the composition was changed: draws what is different.
+    /// To be called after the composition was changed: draws what is different. Outlines of another list of parts are
+    /// gone.
     void refresh();
 
     /// Of the corners, logical pixels.
@@ -59,6 +61,8 @@ signals:
     /// While it inspects: the pointer or the keyboard came to a place.
     void pointed(const QString& key, const QRect& place);
     void unpointed();
+    /// The keyboard is about to point at this place of the widget.
+    void walked(const QRect& place);
     void picked(const QString& key);
 
 protected:
@@ -67,12 +71,14 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void updatePlaces(const std::vector<std::size_t>& parts);
+    void dropOutlines();
     void paintOutline(QPainter& painter, std::size_t part, double strength) const;
     void paintRing(QPainter& painter) const;
     void point(std::optional<std::size_t> part);
@@ -83,6 +89,8 @@ private:
     [[nodiscard]] bool showsRing() const;
 
     std::shared_ptr<PreviewComposition> _composition;
+    std::weak_ptr<PreviewComposition> _scaled; ///< Whose image the screen holds.
+    std::uint64_t _listSerial = 0;             ///< Of the list that the indices below belong to.
     ScreenImage _screen;
     PlaceStack _stack;
     QVariantAnimation _pulse;

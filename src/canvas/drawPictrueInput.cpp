@@ -57,6 +57,8 @@ void CDrawPictrue::mouseMoveEvent(QMouseEvent* event) {
         return;
     }
     stopWalking();
+    // A click picks what is pointed at now, and nothing below.
+    _stack.reset();
     const std::vector<std::size_t> parts = keyedPartsAt(*_composition, toFrame(at));
     point(parts.empty() ? std::nullopt : std::optional(parts.front()));
 }
@@ -77,7 +79,12 @@ void CDrawPictrue::mouseReleaseEvent(QMouseEvent* event) {
     pickPart(part);
 }
 
+void CDrawPictrue::resizeEvent(QResizeEvent*) {
+    _stack.reset();
+}
+
 void CDrawPictrue::leaveEvent(QEvent*) {
+    _stack.reset();
     if (!_isWalking)
         point(std::nullopt);
 }
@@ -109,7 +116,10 @@ void CDrawPictrue::walkTo(int key) {
     const std::vector<std::size_t> walk = walkOf(*_composition);
     if (walk.empty())
         return;
-    const auto found = std::find(walk.begin(), walk.end(), _pointed.value_or(walk.front()));
+    const std::vector<PreviewPart>& parts = _composition->parts();
+    const std::size_t pointed = _pointed.value_or(walk.front());
+    const auto isPointed = [&](std::size_t part) { return part == pointed || parts[part].key == parts[pointed].key; };
+    const auto found = std::ranges::find_if(walk, isPointed);
     const auto last = static_cast<std::ptrdiff_t>(walk.size()) - 1;
     std::ptrdiff_t at = found == walk.end() ? 0 : found - walk.begin();
     if (key == Qt::Key_Home)
@@ -119,7 +129,10 @@ void CDrawPictrue::walkTo(int key) {
     else if (_isWalking)
         at += key == Qt::Key_Right || key == Qt::Key_Down ? 1 : -1;
     _isWalking = true;
-    point(walk[static_cast<std::size_t>(std::clamp(at, std::ptrdiff_t{0}, last))]);
+    _stack.reset();
+    const std::size_t reached = walk[static_cast<std::size_t>(std::clamp(at, std::ptrdiff_t{0}, last))];
+    emit walked(placeOf(reached));
+    point(reached);
     if (_pointed)
         updatePlaces({*_pointed});
 }

@@ -27,8 +27,9 @@ int baseWidth(const DesignSpace& space) {
     return space.height == DesignSpace::highHeight ? highBaseWidth : lowBaseWidth;
 }
 
-bool isVideoCapture(int kind) {
-    return kind == 3 || kind == 4;
+const char* captureMessage(int kind) {
+    return kind == 3 || kind == 4 ? notify::Notify_ScreenCapture_VideoUnlockMsg
+                                  : notify::Notify_ScreenCapture_ChangeUnlockMsg;
 }
 
 } // namespace
@@ -76,6 +77,7 @@ void CDrawPreview::setBackgroundRect(const std::optional<EdgeRect>& source) {
 }
 
 CDrawItem& CDrawPreview::addItem(std::unique_ptr<CDrawItem> item) {
+    Q_ASSERT(item);
     _items.push_back(std::move(item));
     CDrawItem& added = *_items.back();
     orderItems();
@@ -87,7 +89,7 @@ void CDrawPreview::removeItem(CDrawItem& item) {
     const auto place = std::ranges::find(_items, &item, &std::unique_ptr<CDrawItem>::get);
     if (place == _items.end())
         return;
-    stopAnimation();
+    endAnimation();
     if (_selected == &item)
         setSelectedItem(nullptr);
     _deletedNames += item.name();
@@ -96,7 +98,7 @@ void CDrawPreview::removeItem(CDrawItem& item) {
 }
 
 void CDrawPreview::removeAllItems() {
-    stopAnimation();
+    endAnimation();
     setSelectedItem(nullptr);
     _items.clear();
     _deletedNames.clear();
@@ -142,6 +144,7 @@ void CDrawPreview::orderItems() {
 }
 
 void CDrawPreview::setSelectedItem(CDrawItem* item) {
+    Q_ASSERT(!item || findItem(item->id()) == item);
     cancelDrag();
     if (item == _selected)
         return;
@@ -173,7 +176,7 @@ PlacementFault CDrawPreview::CheckRect(const EdgeRect& rect, int withoutListOrde
 }
 
 PreviewScene CDrawPreview::scene() const {
-    return {_space, _background, _modes, _items, _selected, _hand.isIdle() ? nullptr : _selected, isPlaying()};
+    return {_space, _background, _modes, _items, _selected, _hand.drags() ? _selected : nullptr, isPlaying()};
 }
 
 void CDrawPreview::paintEvent(QPaintEvent* /*event*/) {
@@ -186,8 +189,7 @@ void CDrawPreview::paintEvent(QPaintEvent* /*event*/) {
         const QSize pixels = (QSizeF(screen.size()) * pixelRatio).toSize();
         painter.drawImage(QRectF(screen), _frame.compose(scene(), pixels, pixelRatio));
     }
-    if (_captureKind)
-        sendCapture();
+    sendCaptures();
 }
 
 void CDrawPreview::send(const char* name, const CDrawItem& item) {
@@ -196,20 +198,17 @@ void CDrawPreview::send(const char* name, const CDrawItem& item) {
 }
 
 void CDrawPreview::requestCapture(int captureKind) {
-    _captureKind = captureKind;
+    _captureKinds.insert(captureKind);
     if (visibleRegion().isEmpty() || window()->isMinimized())
-        sendCapture();
+        sendCaptures();
     else
         update();
 }
 
-void CDrawPreview::sendCapture() {
-    const int kind = *std::exchange(_captureKind, std::nullopt);
-    if (_hub) {
-        _hub->SendNotify(this,
-                         isVideoCapture(kind) ? notify::Notify_ScreenCapture_VideoUnlockMsg
-                                              : notify::Notify_ScreenCapture_ChangeUnlockMsg,
-                         kind, 0, true);
+void CDrawPreview::sendCaptures() {
+    for (const int kind : std::exchange(_captureKinds, {})) {
+        if (_hub)
+            _hub->SendNotify(this, captureMessage(kind), kind, 0, true);
     }
 }
 
@@ -221,37 +220,47 @@ bool CDrawPreview::saveJpeg(const std::string& path, int quality) const {
     return writeJpeg(path, composed(), quality);
 }
 
+ItemAnimations CDrawPreview::animations() const {
+    ItemAnimations all;
+    for (const auto& item : _items) {
+        const ItemAnimations ofItem = item->allAnimations();
+        all.insert(all.end(), ofItem.begin(), ofItem.end());
+    }
+    return all;
+}
+
 void CDrawPreview::startAnimation(QObject* owner) {
     setSelectedItem(nullptr);
-    std::vector<ItemAnimation*> animations;
-    for (const auto& item : _items) {
-        const std::vector<ItemAnimation*> ofItem = item->allAnimations();
-        animations.insert(animations.end(), ofItem.begin(), ofItem.end());
-    }
     _playOwner = owner ? owner : this;
     _clock.start();
-    _run.start(std::move(animations), 0);
+    _run.start(animations(), 0);
     _passes.start();
     refresh();
 }
 
 void CDrawPreview::stopAnimation() {
     _passes.stop();
-    _run.stop();
+    _run.stop(animations());
     refresh();
 }
 
+void CDrawPreview::endAnimation() {
+    if (!_passes.isActive())
+        return;
+    stopAnimation();
+    if (_hub && _playOwner)
+        _hub->SendNotify(_playOwner, notify::Notify_Pendatn_Play_Stop_Msg, 0, 0, true);
+}
+
 void CDrawPreview::passAnimations() {
-    switch (_run.pass(_clock.elapsed())) {
+    switch (_run.pass(animations(), _clock.elapsed())) {
     case AnimationRun::Pass::unchanged:
         break;
     case AnimationRun::Pass::changed:
         refresh();
         break;
     case AnimationRun::Pass::ended:
-        stopAnimation();
-        if (_hub && _playOwner)
-            _hub->SendNotify(_playOwner, notify::Notify_Pendatn_Play_Stop_Msg, 0, 0, true);
+        endAnimation();
         break;
     }
 }
@@ -271,8 +280,7 @@ int CDrawPreview::heightForWidth(int width) const {
 
 void CDrawPreview::hideEvent(QHideEvent* event) {
     cancelDrag();
-    if (_captureKind)
-        sendCapture();
+    sendCaptures();
     QWidget::hideEvent(event);
 }
 

@@ -18,6 +18,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 
 namespace zdt {
@@ -60,9 +61,9 @@ public:
 
     /// One of the same name stays, but `findItem` gives the one that came last.
     CDrawItem& addItem(std::unique_ptr<CDrawItem> item);
-    /// Frees an item and notes its name as deleted. Stops what plays.
+    /// Frees an item and notes its name as deleted. Ends what plays, which the owner is told.
     void removeItem(CDrawItem& item);
-    /// Frees all, and forgets the deleted names.
+    /// Frees all, and forgets the deleted names. Ends what plays, which the owner is told.
     void removeAllItems();
     [[nodiscard]] const DrawItems& items() const { return _items; }
     /// Null if there is none.
@@ -76,7 +77,7 @@ public:
 
     // Selection. Those made by the hand and by keys are told; those made by a call aren't.
 
-    /// Null for none. Ends a drag.
+    /// Null for none; one of the canvas's own items. Ends a drag.
     void setSelectedItem(CDrawItem* item);
     [[nodiscard]] CDrawItem* selectedItem() const { return _selected; }
     void enableSelectionNotification(bool enable) { _notifySelect = enable; }
@@ -99,14 +100,15 @@ public:
     // Pictures of the whole.
 
     /// Lets a notification with `captureKind` follow the next paint, or come at once where none will follow: by kind
-    /// 3 or 4 that of the video lock, otherwise that of the designed one.
+    /// 3 or 4 that of the video lock, otherwise that of the designed one. Each kind that was requested is told once.
     void requestCapture(int captureKind);
     /// The canvas at the phone's own size, without the marks of the selection and without areas.
     [[nodiscard]] QImage composed() const;
     /// Writes it; quality from 0 to 100.
     [[nodiscard]] bool saveJpeg(const std::string& path, int quality) const;
 
-    // Animations. Nothing can be selected or moved while they play.
+    // Animations. Nothing can be selected or moved while they play. When all is over, the items lie and look again as
+    // the author placed them, wherever the animations took them.
 
     /// @param owner the control that `Notify_Pendatn_Play_Stop_Msg` names when all is over; the canvas if null
     void startAnimation(QObject* owner = nullptr);
@@ -142,13 +144,16 @@ private:
     [[nodiscard]] PlacementFault checkNew(const EdgeRect& rect, const auto& isLeftOut) const;
     [[nodiscard]] PreviewScene scene() const;
     void send(const char* name, const CDrawItem& item);
-    void sendCapture();
+    void sendCaptures();
+    [[nodiscard]] ItemAnimations animations() const;
     void passAnimations();
+    /// Stops what plays and tells its owner; nothing if nothing plays.
+    void endAnimation();
 
     [[nodiscard]] CDrawItem* itemUnder(const QPoint& designPoint) const;
     void selectByHand(CDrawItem& item);
     void dragTo(const QPoint& point);
-    /// Lets go and puts what follows the hand back where it was.
+    /// Lets go, and puts what followed the hand back where it was.
     void cancelDrag();
     void moveByKeys(const QPoint& way);
     void selectNext(bool backwards);
@@ -178,9 +183,8 @@ private:
     QPointer<QObject> _playOwner;
     bool _notifySelect = false;
     bool _enableHot = true;
-    bool _tells = false;             ///< Whether a box is shown or about to be.
-    const char* _told = nullptr;     ///< The key of what a box tells now or in a moment; null for none.
-    std::optional<int> _captureKind; ///< Requested for the next paint.
+    const char* _told = nullptr; ///< The key of what a box tells now or in a moment; null for none.
+    std::set<int> _captureKinds; ///< Requested for the next paint.
 
     AnimationRun _run;
     QTimer _passes;

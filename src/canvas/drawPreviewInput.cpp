@@ -59,6 +59,11 @@ QPoint clampedTo(const QRect& screen, const QPoint& point) {
             std::clamp(point.y(), screen.y(), screen.y() + screen.height())};
 }
 
+/// Whether the release of a button may not reach the canvas after this.
+bool takesHandAway(QEvent::Type type) {
+    return type == QEvent::WindowDeactivate || type == QEvent::WindowBlocked || type == QEvent::UngrabMouse;
+}
+
 bool isSelectable(const std::unique_ptr<CDrawItem>& item) {
     return !item->locked;
 }
@@ -75,7 +80,7 @@ CDrawItem* CDrawPreview::itemUnder(const QPoint& designPoint) const {
 
 PressEffect CDrawPreview::pressEffect(const QPoint& point) const {
     const QPoint designPoint = toDesign(point, screenRect(), _space);
-    const CDrawItem* item = isPlaying() || screenRect().isEmpty() ? nullptr : itemUnder(designPoint);
+    const CDrawItem* item = isPlaying() || !screenRect().contains(point) ? nullptr : itemUnder(designPoint);
     if (!item || item->locked)
         return PressEffect::nothing;
     if (item->dragRefused)
@@ -107,12 +112,14 @@ void CDrawPreview::selectByHand(CDrawItem& item) {
 
 void CDrawPreview::mousePressEvent(QMouseEvent* event) {
     const QRect screen = screenRect();
-    if (event->button() != Qt::LeftButton || !_hand.isIdle() || isPlaying() || screen.isEmpty())
+    if (event->button() != Qt::LeftButton || isPlaying() || screen.isEmpty())
         return;
+    // A press without the release of the one before: that was lost.
+    cancelDrag();
     orderItems();
-    const QPoint point = clampedTo(screen, event->position().toPoint());
+    const QPoint point = event->position().toPoint();
     const QPoint designPoint = toDesign(point, screen, _space);
-    CDrawItem* item = itemUnder(designPoint);
+    CDrawItem* item = screen.contains(point) ? itemUnder(designPoint) : nullptr;
     if (!item) {
         setSelectedItem(nullptr);
     } else if (!item->locked) {
@@ -123,6 +130,9 @@ void CDrawPreview::mousePressEvent(QMouseEvent* event) {
 
 void CDrawPreview::mouseMoveEvent(QMouseEvent* event) {
     const QPoint point = event->position().toPoint();
+    // The release may have gone elsewhere, to a box or another window.
+    if (!event->buttons().testFlag(Qt::LeftButton))
+        cancelDrag();
     if (_hand.isIdle())
         showCursor(point);
     else
@@ -241,6 +251,8 @@ bool CDrawPreview::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride && !_hand.isIdle() &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
         event->accept();
+    if (takesHandAway(event->type()))
+        cancelDrag();
     return QWidget::event(event);
 }
 

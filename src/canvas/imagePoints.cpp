@@ -45,7 +45,8 @@ std::shared_ptr<const InkMask> ImagePoints::read(const std::string& picture) {
     if (image.isNull())
         return nullptr;
     auto mask = std::make_shared<const InkMask>(InkMask::ofImage(image));
-    if (!name.empty())
+    // What isn't measured by its head, such as another kind of picture, would never be found again.
+    if (!name.empty() && bounds == mask->size())
         _file.append(name, picture, *mask);
     return mask;
 }
@@ -55,9 +56,13 @@ std::shared_ptr<const InkMask> ImagePoints::of(const std::string& path) {
     const std::string stamp = fileStamp(picture);
     Held& held = _held[picture];
     held.usedAt = ++_uses;
-    if (!held.mask || held.stamp != stamp) {
+    if (!held.isRead || held.stamp != stamp) {
         held.mask = read(picture);
         held.stamp = stamp;
+        held.isRead = true;
+        _bytes -= held.bytes;
+        held.bytes = picture.size() + (held.mask ? held.mask->bytes() : 0);
+        _bytes += held.bytes;
     }
     auto mask = held.mask;
     trim();
@@ -65,14 +70,11 @@ std::shared_ptr<const InkMask> ImagePoints::of(const std::string& path) {
 }
 
 void ImagePoints::trim() {
-    std::size_t total = 0;
-    for (const auto& [path, held] : _held)
-        total += held.mask ? held.mask->bytes() + path.size() : path.size();
-    while (total > maxHeldBytes) {
+    while (_bytes > maxHeldBytes) {
         const auto oldest = std::min_element(_held.begin(), _held.end(), [](const auto& one, const auto& other) {
             return one.second.usedAt < other.second.usedAt;
         });
-        total -= oldest->second.mask ? oldest->second.mask->bytes() + oldest->first.size() : oldest->first.size();
+        _bytes -= oldest->second.bytes;
         _held.erase(oldest);
     }
 }

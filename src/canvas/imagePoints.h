@@ -4,6 +4,7 @@
 #include "canvas/pointFile.h"
 #include "kit/skinFolder.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -19,7 +20,7 @@ public:
 
     /// Where a picture stands: one of the skin may be named by "./skin/…".
     [[nodiscard]] std::string fileOf(const std::string& picture) const;
-    /// The shape of a picture; null if it can't be read. One that was replaced is read again.
+    /// The shape of a picture; null if it can't be read. A picture is read again once it was replaced.
     [[nodiscard]] std::shared_ptr<const InkMask> of(const std::string& picture);
 
 private:
@@ -27,6 +28,8 @@ private:
         std::string stamp;
         std::shared_ptr<const InkMask> mask;
         std::uint64_t usedAt = 0;
+        std::size_t bytes = 0;
+        bool isRead = false; ///< Also one that couldn't be.
     };
 
     [[nodiscard]] std::shared_ptr<const InkMask> read(const std::string& picture);
@@ -38,6 +41,7 @@ private:
     PointFile _file;
     std::map<std::string, Held> _held;
     std::uint64_t _uses = 0;
+    std::size_t _bytes = 0; ///< Of all that are held.
 };
 
 /// That of the process, with its file in the workspace.

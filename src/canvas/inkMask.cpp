@@ -40,17 +40,8 @@ InkMask InkMask::ofImage(const QImage& picture) {
     return picture.isNull() ? InkMask() : InkMask(picture.size(), wholeAlpha(picture));
 }
 
-InkMask InkMask::ofPoints(const QSize& size, const PixelList& points) {
-    if (size.isEmpty())
-        return {};
-    std::vector<std::uint8_t> whole(areaOf(size), 0);
-    const QRect bounds(QPoint(), size);
-    for (const CFileImagePoint& point : points) {
-        if (bounds.contains(point.x, point.y) && point.alpha > 0 && point.alpha <= 255)
-            whole[static_cast<std::size_t>(point.y) * static_cast<std::size_t>(size.width()) +
-                  static_cast<std::size_t>(point.x)] = static_cast<std::uint8_t>(point.alpha);
-    }
-    return {size, whole};
+InkMask InkMask::ofAlphas(const QSize& size, const std::vector<std::uint8_t>& alphas) {
+    return size.isEmpty() || alphas.size() != areaOf(size) ? InkMask() : InkMask(size, alphas);
 }
 
 void InkMask::findInk(const std::vector<std::uint8_t>& whole) {
@@ -96,15 +87,14 @@ void InkMask::findCore() {
     }
 }
 
+std::size_t InkMask::pointCount() const {
+    return static_cast<std::size_t>(
+        std::count_if(_alpha.begin(), _alpha.end(), [](std::uint8_t alpha) { return alpha != 0; }));
+}
+
 PixelList InkMask::points() const {
     PixelList list;
-    for (int y = 0; y < _ink.height(); ++y) {
-        const std::uint8_t* alphas = row(_ink.top() + y);
-        for (int x = 0; x < _ink.width(); ++x) {
-            if (alphas[x] != 0)
-                list.push_back({_ink.left() + x, _ink.top() + y, alphas[x]});
-        }
-    }
+    visitPoints([&list](const CFileImagePoint& point) { list.push_back(point); });
     return list;
 }
 

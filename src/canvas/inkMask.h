@@ -29,9 +29,13 @@ class InkMask {
 public:
     InkMask() = default;
     [[nodiscard]] static InkMask ofImage(const QImage& picture);
-    /// Points outside of `size` and those whose alpha isn't in 1 to 255 are left out.
-    [[nodiscard]] static InkMask ofPoints(const QSize& size, const PixelList& points);
+    /// `alphas` has one for each pixel of `size`, row by row.
+    [[nodiscard]] static InkMask ofAlphas(const QSize& size, const std::vector<std::uint8_t>& alphas);
 
+    /// Hands each point to `visit`, row by row: a list of all may take twelve times as much as the mask.
+    template <typename Visit>
+    void visitPoints(const Visit& visit) const;
+    [[nodiscard]] std::size_t pointCount() const;
     [[nodiscard]] PixelList points() const;
 
     /// The picture's size in pixels.
@@ -59,5 +63,16 @@ private:
     QRect _core;
     std::vector<std::uint8_t> _alpha; ///< Of the ink, row by row.
 };
+
+template <typename Visit>
+void InkMask::visitPoints(const Visit& visit) const {
+    for (int y = _ink.top(); y <= _ink.bottom(); ++y) {
+        const std::uint8_t* alphas = row(y);
+        for (int x = 0; x < _ink.width(); ++x) {
+            if (alphas[x] != 0)
+                visit(CFileImagePoint{_ink.left() + x, y, alphas[x]});
+        }
+    }
+}
 
 } // namespace zdt

@@ -28,13 +28,13 @@ QRectF rectOf(const EdgeRect& rect) {
     return {QPointF(rect.left, rect.top), QPointF(rect.right, rect.bottom)};
 }
 
-int alignmentOf(TextAlign align) {
+int alignmentOf(ItemTextAlign align) {
     switch (align) {
-    case TextAlign::left:
+    case ItemTextAlign::left:
         return Qt::AlignLeft;
-    case TextAlign::center:
+    case ItemTextAlign::center:
         return Qt::AlignHCenter;
-    case TextAlign::right:
+    case ItemTextAlign::right:
         return Qt::AlignRight;
     }
     return Qt::AlignLeft;
@@ -83,7 +83,7 @@ void ItemPainter::drawStretched(const QImage& picture, const QRectF& part, const
         _painter.drawImage(exact, picture, part);
 }
 
-void ItemPainter::drawText(const QString& text, const TextStyle& style, const EdgeRect& rect) {
+void ItemPainter::drawText(const QString& text, const ItemTextStyle& style, const EdgeRect& rect) {
     if (style.size <= 0 || rect.width() <= 0 || rect.height() <= 0)
         return;
     QFont font(style.font);

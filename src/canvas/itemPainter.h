@@ -14,7 +14,7 @@ class QTransform;
 
 namespace zdt {
 
-struct TextStyle;
+struct ItemTextStyle;
 
 /// Draws what lies in the design space on a surface of another size, each picture in the pixels of that surface.
 class ItemPainter {
@@ -33,7 +33,7 @@ public:
     void drawStretched(const QImage& picture, const QRectF& part, const EdgeRect& rect);
     void drawStretched(const QImage& picture, const QRectF& part, const QRectF& rect);
     /// One line in the middle of a rectangle's height, cut at its edges.
-    void drawText(const QString& text, const TextStyle& style, const EdgeRect& rect);
+    void drawText(const QString& text, const ItemTextStyle& style, const EdgeRect& rect);
     /// The outlines and handles of a selected item.
     void drawSelection(const EdgeRect& rect, QRgb outline, QRgb handle, bool handles);
 

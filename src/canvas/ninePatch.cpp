@@ -1,5 +1,6 @@
 #include "canvas/ninePatch.h"
 
+#include "canvas/scaledPictures.h"
 #include "packaging/pictureConversion.h"
 #include "support/plainFile.h"
 
@@ -157,11 +158,6 @@ std::vector<Piece> placedPieces(const std::vector<StretchRun>& runs, int side, i
     return pieces;
 }
 
-QImage blendable(const QImage& picture) {
-    return picture.convertToFormat(picture.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
-                                                             : QImage::Format_RGB32);
-}
-
 } // namespace
 
 bool hasNinePatchName(std::string_view file) {
@@ -174,11 +170,11 @@ NinePatch readNinePatch(const std::string& file) {
         return {};
     const std::vector<std::uint8_t> chunk = patchChunk(file);
     if (const auto runs = compiledRuns(chunk, picture.size()))
-        return {blendable(picture), runs->across, runs->down};
+        return {paintable(picture), runs->across, runs->down};
     const auto runs = chunk.empty() ? drawnRuns(picture) : std::nullopt;
     if (!runs)
-        return {blendable(picture), {}, {}};
-    return {blendable(picture.copy(picture.rect().adjusted(1, 1, -1, -1))), runs->across, runs->down};
+        return {paintable(picture), {}, {}};
+    return {paintable(picture.copy(picture.rect().adjusted(1, 1, -1, -1))), runs->across, runs->down};
 }
 
 QImage stretched(const NinePatch& patch, const QSize& size) {

@@ -1,5 +1,6 @@
 #include "canvas/overlayPainting.h"
 
+#include "canvas/previewLayer.h"
 #include "packaging/pictureConversion.h"
 
 #include <QPainter>
@@ -30,11 +31,12 @@ QRect outlinePlace(const OverlayPart& overlay) {
     QRect place = placeOf(overlay);
     if (overlay.x <= 0) {
         place.setX(place.x() + leftInset.moved);
-        place.setWidth(overlay.width - (overlay.width >= 1080 ? leftInset.shortened : leftInset.moved));
+        place.setWidth(overlay.width - (overlay.width >= previewFrame.width() ? leftInset.shortened : leftInset.moved));
     }
     if (overlay.y <= 0) {
         place.setY(place.y() + topInset.moved);
-        place.setHeight(overlay.height - (overlay.height >= 2160 ? topInset.shortened : topInset.moved));
+        place.setHeight(overlay.height -
+                        (overlay.height >= previewFrame.height() ? topInset.shortened : topInset.moved));
     }
     return place;
 }

@@ -33,6 +33,7 @@ ZPhoneView::ZPhoneView(QWidget* parent)
     , _picture(new CDrawPictrue(this)) {
     _picture->setRadius(screenRadius);
     _picture->setObjectName("phonePicture");
+    connect(_picture, &CDrawPictrue::walked, this, &ZPhoneView::bringIntoView);
 }
 
 /// The screen's width at a zoom, twice of which is its height.
@@ -71,11 +72,24 @@ void ZPhoneView::moveTo(const QPoint& place) {
     };
     _screenPlace = {held(place.x(), screen.width(), width()), held(place.y(), screen.height(), height())};
     const QRect geometry(_screenPlace, screen);
-    if (_picture->geometry() == geometry && !_body.isNull())
+    if (_picture->geometry() == geometry)
         return;
+    if (_picture->size() != screen)
+        _body = QPixmap();
     _picture->setGeometry(geometry);
-    _body = QPixmap();
     update();
+}
+
+/// Moves the phone as little as it takes to show a place of its screen; of a larger one its top left.
+void ZPhoneView::bringIntoView(const QRect& place) {
+    if (place.isEmpty() || !canPan())
+        return;
+    const auto moved = [](int wanted, int first, int length, int room) {
+        const int last = std::min(wanted, room - margin - first - length);
+        return std::max(last, margin - first);
+    };
+    moveTo({moved(_screenPlace.x(), place.x(), place.width(), width()),
+            moved(_screenPlace.y(), place.y(), place.height(), height())});
 }
 
 void ZPhoneView::zoomAbout(const QPointF& point, int percent) {
@@ -105,11 +119,11 @@ void ZPhoneView::zoomOut() {
 /// The shadow takes long to draw, and the screen over it changes often.
 void ZPhoneView::drawBody() {
     const double ratio = devicePixelRatioF();
-    _body = QPixmap(size() * ratio);
+    const QRect phone(QPoint(margin, margin), phonePlace().size());
+    _body = QPixmap((QSizeF(phone.size() + 2 * QSize(margin, margin)) * ratio).toSize());
     _body.setDevicePixelRatio(ratio);
     _body.fill(Qt::transparent);
     QPainter painter(&_body);
-    const QRect phone = phonePlace();
     paintShadow(painter, phone, outerRadius, token::shadowPhone);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
@@ -120,11 +134,10 @@ void ZPhoneView::drawBody() {
 void ZPhoneView::paintEvent(QPaintEvent*) {
     if (_body.isNull() || _body.devicePixelRatio() != devicePixelRatioF())
         drawBody();
-    QPainter(this).drawPixmap(0, 0, _body);
+    QPainter(this).drawPixmap(phonePlace().topLeft() - QPoint(margin, margin), _body);
 }
 
 void ZPhoneView::resizeEvent(QResizeEvent* event) {
-    _body = QPixmap();
     // What was in the middle of the view stays there.
     const QSize before = event->oldSize();
     const QPoint shift(before.isValid() ? (width() - before.width()) / 2 : 0,
@@ -136,7 +149,9 @@ void ZPhoneView::wheelEvent(QWheelEvent* event) {
     const QPoint units = event->angleDelta();
     if (event->modifiers().testFlag(Qt::ControlModifier)) {
         constexpr double ofNotch = 1.1;
-        zoomAbout(event->position(), qRound(_zoom * std::pow(ofNotch, units.y() / 120.0)));
+        const double before = qRound(_wheelZoom) == _zoom ? _wheelZoom : _zoom;
+        _wheelZoom = std::clamp<double>(before * std::pow(ofNotch, units.y() / 120.0), minZoom, maxZoom);
+        zoomAbout(event->position(), qRound(_wheelZoom));
         return;
     }
     if (!canPan()) {

@@ -11,8 +11,8 @@ namespace zdt {
 class CDrawPictrue;
 
 /// A phone in the middle of the place that there is, its screen a composed preview. It fits the place, times a zoom in
-/// per cent; one that is larger is moved by the wheel or dragged with the middle button. Ctrl and the wheel zoom about
-/// the pointer.
+/// per cent; one that is larger is moved by the wheel or dragged with the middle button, and where
+/// the keyboard walks over its screen. Ctrl and the wheel zoom about the pointer.
 class ZPhoneView : public QWidget {
     Q_OBJECT
 
@@ -55,12 +55,14 @@ private:
     [[nodiscard]] bool canPan() const;
     void zoomAbout(const QPointF& point, int percent);
     void moveTo(const QPoint& place);
+    void bringIntoView(const QRect& place);
     void drawBody();
 
     CDrawPictrue* _picture;
     int _zoom = fitZoom;
-    QPoint _screenPlace; ///< The top left of the screen.
-    QPixmap _body;       ///< The shadow and the bezel, in the size of the view; null if it must be drawn.
+    double _wheelZoom = fitZoom; ///< The zoom with the fractions that a touchpad's steps add up.
+    QPoint _screenPlace;         ///< The top left of the screen.
+    QPixmap _body;               ///< The bezel with its shadow around it; null if it must be drawn.
     std::optional<QPoint> _grip;
 };
 

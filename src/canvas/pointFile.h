@@ -1,35 +1,34 @@
 #pragma once
 
 #include "canvas/inkMask.h"
+#include "canvas/pointRecords.h"
 #include "kit/skinFolder.h"
 
 #include <QSize>
 
 #include <cstddef>
-#include <cstdint>
-#include <cstdio>
 #include <ctime>
-#include <map>
-#include <memory>
 #include <optional>
 #include <string>
 
 namespace zdt {
 
-/// Bytes of the longest picture's path that a record takes: a zero must follow it.
-inline constexpr std::size_t maxPointPath = 259;
-
 /// `ImageInfo.desc` in the skin's folder: the points of pictures, record after record. A record is the count of its
 /// points (4 bytes), the picture's path from "skin/" on (260 bytes, zeros behind it), and 12 bytes for each point: x, y
 /// and alpha. All numbers are little-endian.
 ///
-/// It is read from the workspace, or as it was shipped, and written in the workspace alone. A damaged rest is dropped.
-/// The file's time is that of the newest picture in it, so that a picture that was replaced since is newer than the
-/// file and its record is dropped too. What can't be written is only not kept.
+/// It is read from the workspace, and as it was shipped for pictures that were shipped too; it is written in the
+/// workspace alone. A damaged rest is dropped, and a record without a path counts as removed. The file's time is that
+/// of the newest picture in it, so that a picture that was replaced since is newer than the file and its record is
+/// dropped too; what was recorded of a newer one counts once the others were looked at, which is done for many at
+/// once. Several processes may write: one that finds the file in use doesn't. What can't be written is only not kept.
 class PointFile {
 public:
     /// Reads where each record stands, and no points.
     explicit PointFile(SkinRoots roots);
+    ~PointFile();
+    PointFile(const PointFile&) = delete;
+    PointFile& operator=(const PointFile&) = delete;
 
     /// What is recorded of a picture of `size` pixels. Nothing without a record, or if it doesn't fit such a picture.
     [[nodiscard]] std::optional<InkMask> find(const std::string& name, const std::string& picture,
@@ -39,30 +38,29 @@ public:
     void append(const std::string& name, const std::string& picture, const InkMask& mask);
 
 private:
-    struct Record {
-        std::uint64_t offset = 0; ///< Of its first byte.
-        std::uint32_t count = 0;
-    };
-    struct Close {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
+    class Lock;
 
-    void scan(const std::string& path);
-    [[nodiscard]] bool isFresh(const std::string& picture) const;
-    void dropStale();
-    [[nodiscard]] bool isReady();
-    [[nodiscard]] bool rewrite(const std::string& target);
-    [[nodiscard]] bool write(const std::string& name, const PixelList& points);
-    void stampFile() const;
+    [[nodiscard]] bool openFile();
+    [[nodiscard]] bool lockFile();
+    [[nodiscard]] bool isInPlace() const;
+    [[nodiscard]] bool isAsRead() const;
+    [[nodiscard]] bool prepare();
+    [[nodiscard]] bool rewrite();
+    std::size_t dropStale();
+    void write(const std::string& name, const std::timespec& changed, const InkMask& mask);
+    void settle();
+    void stampFile(const std::timespec& time);
+    void closeFile();
 
     SkinRoots _roots;
-    std::string _path; ///< Of the file that is read.
-    std::map<std::string, Record> _records;
-    std::uint64_t _end = 0;    ///< Behind the last whole record.
-    std::timespec _newest{};   ///< No record's picture is newer.
-    bool _mustRewrite = false; ///< The file holds more than the records, or isn't the workspace's.
-    bool _isGivenUp = false;   ///< It can't be written.
-    std::unique_ptr<std::FILE, Close> _stream;
+    std::string _path; ///< Of the file in the workspace.
+    std::string _shippedPath;
+    PointIndex _own;
+    PointIndex _shipped; ///< Empty if the two are one.
+    int _descriptor = -1;
+    std::size_t _unsettled = 0; ///< Records whose pictures may be newer than the file says.
+    bool _isPrepared = false;   ///< The file ends with a whole record, and none was stale when that was found.
+    bool _isGivenUp = false;    ///< It can't be written.
 };
 
 } // namespace zdt

@@ -25,6 +25,16 @@ QRgb shownColour(QRgb colour) {
     return colour == 0 ? 0x00ffffff : colour;
 }
 
+/// A key that is transparent must not fall back to the bare picture, which has no colour.
+void keepTransparent(PreviewDescription& description) {
+    for (PreviewPart& part : description.parts) {
+        if (!part.isColorFill || part.key.empty())
+            continue;
+        part.colorNormal = shownColour(part.colorNormal);
+        part.colorAlternate = shownColour(part.colorAlternate);
+    }
+}
+
 /// Whether two parts paint the same in the same colour.
 bool paintsAlike(const PreviewPart& one, const PreviewPart& other) {
     return one.place() == other.place() && one.picture == other.picture && one.isColorFill == other.isColorFill &&
@@ -47,7 +57,10 @@ PreviewComposition::PreviewComposition()
     : PreviewComposition(imagePoints()) {}
 
 void PreviewComposition::setDescription(PreviewDescription description) {
+    keepTransparent(description);
     const PreviewDescription before = std::exchange(_description, std::move(description));
+    if (!std::ranges::equal(before.parts, parts(), {}, &PreviewPart::key, &PreviewPart::key))
+        ++_listSerial;
     std::vector<Slot> fresh(_description.parts.size() + 1);
     for (std::size_t slot = 0; slot < std::min(fresh.size(), _slots.size()); ++slot) {
         const bool isSame = slot == 0 ? before.background == _description.background
@@ -71,8 +84,10 @@ void PreviewComposition::setOverlays(std::vector<OverlayPart> overlays) {
     }
     _overlays = std::move(overlays);
     _overlayPictures.clear();
-    for (const OverlayPart& overlay : _overlays)
+    for (OverlayPart overlay : _overlays) {
+        overlay.picture = _points.fileOf(overlay.picture);
         _overlayPictures.push_back(overlayPicture(overlay));
+    }
 }
 
 bool PreviewComposition::isSeen(std::size_t slot) const {
@@ -160,14 +175,17 @@ std::vector<std::size_t> PreviewComposition::partsAt(const QPoint& point) {
         if (_slots[part + 1].layer.paintsAt(point))
             found.push_back(part);
     }
+    trim();
     return found;
 }
 
 QRect PreviewComposition::inkOf(std::size_t part) {
     if (part >= parts().size() || !isSeen(part + 1))
         return {};
-    if (!_slots[part + 1].isRead)
+    if (!_slots[part + 1].isRead) {
         hold(part + 1);
+        trim();
+    }
     return _slots[part + 1].ink;
 }
 
@@ -191,12 +209,12 @@ void PreviewComposition::hold(std::size_t index) {
     if (slot.isHeld)
         return;
     const QRect before = slot.ink;
-    slot.stamp = fileStamp(fileOf(index));
+    const std::string stamp = std::exchange(slot.stamp, fileStamp(fileOf(index)));
     slot.layer = readLayer(index);
     slot.ink = slot.layer.ink();
     slot.isHeld = true;
-    // What is read again after it was given up covers the same, unless its file was replaced.
-    if (isSeen(index) && (!slot.isRead || slot.ink != before))
+    // What is read again after it was given up paints the same, unless its file was replaced.
+    if (isSeen(index) && (!slot.isRead || slot.stamp != stamp))
         _dirty += QRegion(before) + slot.ink;
     slot.isRead = true;
 }
@@ -217,9 +235,14 @@ const QImage& PreviewComposition::frame() {
     if (_frame.isNull())
         _frame = QImage(previewFrame.size(), QImage::Format_RGB32);
     ++_serial;
-    const QRegion region = simplified(std::exchange(_dirty, QRegion()));
-    compose(region);
-    note(region);
+    QRegion composed;
+    // A layer that is read again meanwhile and turns out to be another marks what it touches.
+    while (!_dirty.isEmpty()) {
+        const QRegion region = simplified(std::exchange(_dirty, QRegion()));
+        compose(region);
+        composed += region;
+    }
+    note(simplified(composed));
     trim();
     return _frame;
 }
@@ -265,7 +288,9 @@ void PreviewComposition::trim() {
             if (slot.layer.bytes() > 0 && (!oldest || slot.usedAt < oldest->usedAt))
                 oldest = &slot;
         }
-        total -= oldest->layer.bytes();
+        if (!oldest)
+            return;
+        total -= std::min(total, oldest->layer.bytes());
         oldest->layer = PreviewLayer();
         oldest->isHeld = false;
     }

@@ -29,7 +29,8 @@ public:
     /// Takes shapes from the process's own store of them.
     PreviewComposition();
 
-    /// Replaces all parts and the background. A part that stays what it was but for its colours, and whose file is
+    /// Replaces all parts and the background. What takes the colour of a key takes transparent black, which would be
+    /// none, for another transparent one. A part that stays what it was but for its colours, and whose file is
     /// unchanged, isn't read again.
     void setDescription(PreviewDescription description);
     /// Replaces the rectangles over the parts. A colour with `cover` counts as opaque. A picture that is larger than
@@ -37,6 +38,8 @@ public:
     void setOverlays(std::vector<OverlayPart> overlays);
 
     [[nodiscard]] const std::vector<PreviewPart>& parts() const { return _description.parts; }
+    /// Other for another list: an index of a part means the same, or one of the same key, while this is the same.
+    [[nodiscard]] std::uint64_t listSerial() const { return _listSerial; }
     [[nodiscard]] const std::vector<OverlayPart>& overlays() const { return _overlays; }
     [[nodiscard]] const std::string& backgroundFile() const { return _description.background; }
 
@@ -102,6 +105,7 @@ private:
     QRegion _dirty;
     bool _hasUnread = true;
     std::uint64_t _serial = 0;
+    std::uint64_t _listSerial = 0;
     struct Change {
         std::uint64_t serial;
         QRegion region;

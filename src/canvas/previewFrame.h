@@ -26,11 +26,11 @@ struct PreviewScene {
     BackgroundModes modes;
     const DrawItems& items;              ///< In the order of painting.
     const CDrawItem* selected = nullptr; ///< Gets its marks, above everything.
-    const CDrawItem* lifted = nullptr;   ///< Is held by the hand now.
+    const CDrawItem* lifted = nullptr;   ///< Follows the hand now.
     bool playing = false;
 };
 
-/// The composed canvas, in the pixels in which it is shown. While an item is held by the hand, what lies below it and
+/// The composed canvas, in the pixels in which it is shown. While an item follows the hand, what lies below it and
 /// above it is drawn once, and of the rest only what the item left and reached.
 class PreviewFrame {
 public:
@@ -43,8 +43,6 @@ public:
     void refresh() { _isWhole = false; }
     /// Of a lifted item, what was or is in this place of the design space.
     void refresh(const EdgeRect& place) { _dirty.push_back(place); }
-    /// How far the marks of a selection reach beyond it, as it was composed last.
-    [[nodiscard]] int selectionMargin() const { return _selectionMargin; }
 
 private:
     void composeWhole(const PreviewScene& scene, double pixelRatio);
@@ -58,7 +56,7 @@ private:
     const CDrawItem* _lifted = nullptr; ///< Compared alone.
     ScaledPictures _pictures;
     std::vector<EdgeRect> _dirty;
-    int _selectionMargin = 0;
+    int _selectionMargin = 0; ///< How far the marks of a selection reach beyond it, as it was composed last.
     bool _isWhole = false;
 };
 

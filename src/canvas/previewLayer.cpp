@@ -3,6 +3,7 @@
 #include "canvas/imagePoints.h"
 #include "canvas/inkMask.h"
 #include "canvas/ninePatch.h"
+#include "canvas/scaledPictures.h"
 #include "packaging/pictureConversion.h"
 
 #include <QDebug>
@@ -16,7 +17,7 @@ namespace zdt {
 namespace {
 
 /// The furthest that a layer reaches in any direction: a place beyond comes from a damaged description.
-constexpr int maxReach = 8 * 2160;
+constexpr int maxReach = 8 * previewFrame.height();
 
 bool isSane(const PreviewPart& part) {
     return std::abs(part.x) <= maxReach && std::abs(part.y) <= maxReach && part.width >= 0 && part.height >= 0 &&
@@ -29,13 +30,11 @@ QRect placeOf(const PreviewPart& part, const QSize& picture) {
             part.height == 0 ? picture.height() : part.height};
 }
 
-QImage blendable(const QImage& picture) {
-    return picture.convertToFormat(picture.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
-                                                             : QImage::Format_RGB32);
-}
-
 bool isWallpaperSize(const QSize& size) {
-    return (size.width() == 1080 || size.width() == 2160) && (size.height() == 1920 || size.height() == 2160);
+    constexpr int wide = 2 * previewFrame.width();
+    constexpr int low = 1920;
+    return (size.width() == previewFrame.width() || size.width() == wide) &&
+           (size.height() == low || size.height() == previewFrame.height());
 }
 
 /// The middle of a picture, as wide as the place is for the picture's whole height.
@@ -143,10 +142,16 @@ void PreviewLayer::take(QImage image, const QPoint& origin) {
     const QRect seen = image.rect().translated(origin) & previewFrame;
     if (image.isNull() || seen.isEmpty())
         return;
-    _image = blendable(seen.size() == image.size() ? std::move(image) : image.copy(seen.translated(-origin)));
+    _image = paintable(seen.size() == image.size() ? std::move(image) : image.copy(seen.translated(-origin)));
     _origin = seen.topLeft();
     _kind = Kind::picture;
     _ink = _image.hasAlphaChannel() ? InkMask::ofImage(_image).ink().translated(_origin) : seen;
+}
+
+std::size_t PreviewLayer::bytes() const {
+    // A shape in its picture's own size is shared with those who keep it for all.
+    const bool isAlone = _shape && _shape.use_count() == 1;
+    return static_cast<std::size_t>(_image.sizeInBytes()) + (isAlone ? _shape->bytes() : 0);
 }
 
 bool PreviewLayer::setColour(QRgb colour) {

@@ -36,7 +36,7 @@ public:
     /// The tight bounds of what is painted, in the frame; with a colour that is seen. Empty if nothing is.
     [[nodiscard]] const QRect& ink() const { return _ink; }
     /// The bytes of pixels that it alone keeps.
-    [[nodiscard]] std::size_t bytes() const { return static_cast<std::size_t>(_image.sizeInBytes()); }
+    [[nodiscard]] std::size_t bytes() const;
 
     /// Gives another colour to a layer that has one. False if the part must be read again for it.
     [[nodiscard]] bool setColour(QRgb colour);

@@ -16,7 +16,7 @@ QRgb faded(QRgb pixel, double part) {
 
 } // namespace
 
-QRegion ScreenImage::follow(PreviewComposition& composition, const QSize& size, double radius) {
+QRegion ScreenImage::follow(PreviewComposition& composition, const QSize& size, double radius, double pixelRatio) {
     if (size.isEmpty())
         return {};
     if (_scaler.target() != size || _radius != radius) {
@@ -25,6 +25,8 @@ QRegion ScreenImage::follow(PreviewComposition& composition, const QSize& size, 
         _radius = radius;
         forget();
     }
+    if (_image.devicePixelRatio() != pixelRatio)
+        _image.setDevicePixelRatio(pixelRatio);
     const QImage& frame = composition.frame();
     QRegion reach;
     for (const QRect& piece : composition.changedSince(_serial))

@@ -15,8 +15,9 @@ class PreviewComposition;
 /// A composed preview in the size of a view, its corners rounded. After a change what is different alone is scaled.
 class ScreenImage {
 public:
-    /// Follows the composition, and tells what of the image is different now. `size` and `radius` are device pixels.
-    QRegion follow(PreviewComposition& composition, const QSize& size, double radius);
+    /// Follows the composition, and tells what of the image is different now. `size` and `radius` are device pixels,
+    /// `pixelRatio` of which are one of the view's.
+    QRegion follow(PreviewComposition& composition, const QSize& size, double radius, double pixelRatio);
 
     /// Lets all be scaled anew, for another composition.
     void forget() { _serial = 0; }

@@ -15,6 +15,7 @@
 #include "editor/screenPictures.h"
 #include "kit/flowView.h"
 #include "kit/icons.h"
+#include "kit/kitStyle.h"
 #include "kit/labels.h"
 #include "kit/localisation.h"
 #include "kit/notificationNames.h"
@@ -39,6 +40,8 @@ constexpr int hintIcon = 16;
 constexpr int stripEnd = 16;
 constexpr int stripSide = 8;
 constexpr int legendGap = 16;
+/// The narrowest bar that has room for all its words.
+constexpr int wideBar = 620;
 /// Milliseconds.
 constexpr int stripDelay = 120;
 constexpr int outlineDelay = 900;
@@ -136,9 +139,9 @@ int CColorAndPictureManagerPage::indexOf(const QString& screen) const {
 
 void CColorAndPictureManagerPage::reload() {
     if (_theme != bench().themeSerial()) {
-        dropViews();
-        _batch->forgetAll();
         _theme = bench().themeSerial();
+        _batch->forgetAll();
+        _screen = std::min(_screen, 0);
     }
     if (isVisible())
         rebuild();
@@ -192,6 +195,15 @@ void CColorAndPictureManagerPage::showWords() {
     _count.setText(screenCount() == 1 ? Text("kScreens_count_one") : TextWith("kScreens_count", screenCount()));
     sayHint({});
     showZoom();
+    fitBar();
+}
+
+void CColorAndPictureManagerPage::fitBar() {
+    const bool isWide = _title.parentWidget()->width() >= wideBar;
+    _count.setVisible(isWide);
+    _capture.setText(isWide ? Text("kScreens_capture") : QString());
+    _capture.setAccessibleName(Text("kScreens_capture"));
+    setStyleProperty(&_capture, "withIcon", isWide ? "text" : "alone");
 }
 
 void CColorAndPictureManagerPage::showZoom() {
@@ -301,6 +313,7 @@ void CColorAndPictureManagerPage::hideEvent(QHideEvent* event) {
 
 void CColorAndPictureManagerPage::resizeEvent(QResizeEvent* event) {
     ZPage::resizeEvent(event);
+    fitBar();
     makeRoomForLegend();
     placeLegend();
 }

@@ -99,6 +99,8 @@ private:
     /// Lets one of the strip's previews follow an edit.
     void refreshNext();
     void showZoom();
+    /// Leaves words out of a narrow bar.
+    void fitBar();
     void placeLegend();
     void makeRoomForLegend();
     [[nodiscard]] View& view() { return _views[static_cast<std::size_t>(_screen)]; }

@@ -253,6 +253,8 @@ void CColorAndPictureManagerPage::resetColour(CColorItem& item) {
     if (!row)
         return;
     const ItemPath path = row->path;
+    // The button goes with what it puts back, and would hand the keyboard to the next row.
+    item.edit();
     int code = resetItem(*theme(), path);
     if (code == returnCode::success && !row->switchItem.empty())
         code = resetItem(*theme(), {path.module, path.group, row->switchItem});

@@ -167,7 +167,7 @@ void CColorSetPage::choose() {
     if (_rows.empty())
         _empty->setTexts(Text("kColours_none"), Text("kColours_none_hint"));
     else if (!_filter.isEmpty())
-        _empty->setTexts(TextWith("kList_nothing_called", _filter), {}, Text("kList_clear_search"));
+        _empty->setTexts(nothingCalled(_filter), {}, Text("kList_clear_search"));
     else
         _empty->setTexts(Text("kList_nothing_changed"), {}, Text("kList_show_all"));
 }

@@ -24,6 +24,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace zdt {
 
@@ -76,7 +77,7 @@ CFullListPage::CFullListPage(Workbench& bench, QWidget* parent)
     connectBar();
     connectList();
     connectEditor();
-    CFullListPage::reload();
+    readAll();
 }
 
 CFullListPage::~CFullListPage() {
@@ -160,13 +161,24 @@ void CFullListPage::connectEditor() {
     _tryTimer.setInterval(token::progressInterval);
 }
 
+void CFullListPage::bringUpToDate() {
+    if (std::exchange(_isOld, false))
+        readAll();
+}
+
 void CFullListPage::reload() {
+    _isOld = true;
+    if (isVisible())
+        bringUpToDate();
+    else
+        clearDetails();
+}
+
+void CFullListPage::readAll() {
     const std::string name = theme() ? theme()->name() : std::string();
     if (name != _theme)
         _current.clear();
     _theme = name;
-    if (!isVisible())
-        clearDetails();
     const std::string key = _current;
     const int scrolled = _list.verticalScrollBar()->value();
     _editor->relabel();
@@ -255,6 +267,11 @@ bool CFullListPage::showLeaf(const std::string& keyText) {
 void CFullListPage::focusSearch() {
     _search.setFocus(Qt::ShortcutFocusReason);
     _search.selectAll();
+}
+
+void CFullListPage::showEvent(QShowEvent* event) {
+    ZPage::showEvent(event);
+    bringUpToDate();
 }
 
 void CFullListPage::hideEvent(QHideEvent* event) {

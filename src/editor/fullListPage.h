@@ -43,8 +43,10 @@ public:
     /// Goes to a key, the names down to it joined by "/", and so to its module. False if the list has no such key.
     bool showLeaf(const std::string& keyText);
     void focusSearch();
-    /// Shows what others have changed.
-    void refresh() { reload(); }
+    /// Reads the theme anew if it was told to while it was hidden. To be called before it is shown or asked.
+    void bringUpToDate();
+    /// Others have changed the theme.
+    void setOld() { _isOld = true; }
 
     void Notify(const Notification& message) override;
 
@@ -56,6 +58,7 @@ signals:
 protected:
     void reload() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
@@ -64,6 +67,7 @@ private:
     void connectEditor();
 
     // What is shown
+    void readAll();
     void fillModules();
     void setFilter(const KeyFilter& filter);
     void showCounts();
@@ -126,6 +130,7 @@ private:
     KeyFacts* _facts;
     QLabel* _nothing;
 
+    bool _isOld = false;
     std::string _theme;   ///< The name of the theme that is shown.
     std::string _current; ///< The key of the current row.
     std::string _edited;  ///< That of the row which the fields show, and which may just have been left.

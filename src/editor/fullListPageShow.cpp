@@ -1,6 +1,7 @@
 #include "editor/fullListPage.h"
 #include "editor/keyDetails.h"
 #include "editor/keyEditor.h"
+#include "editor/keyWords.h"
 #include "kit/emptyState.h"
 #include "kit/icons.h"
 #include "kit/kitStyle.h"
@@ -45,7 +46,7 @@ void CFullListPage::showEmpty() {
     const KeyFilter& filter = _table.filter();
     if (!filter.text.trimmed().isEmpty()) {
         _empty.setIcon("search");
-        _empty.setTexts(TextWith("kList_nothing_called", filter.text.trimmed()), {}, Text("kList_clear_search"));
+        _empty.setTexts(nothingCalled(filter.text.trimmed()), {}, Text("kList_clear_search"));
     } else if (filter.changedOnly) {
         _empty.setIcon("list_alt");
         _empty.setTexts(Text("kList_nothing_changed"), Text("kList_nothing_changed_hint"), Text("kList_show_all"));

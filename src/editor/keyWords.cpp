@@ -51,6 +51,12 @@ KeyWords wordsOf(const KeyRow& row) {
     return words;
 }
 
+QString nothingCalled(const QString& searched) {
+    constexpr int shownLength = 24;
+    const QString text = searched.trimmed();
+    return TextWith("kList_nothing_called", text.size() > shownLength ? text.left(shownLength) + QChar(0x2026) : text);
+}
+
 QString listSeparator() {
     return GetLanguage() == chineseLanguage ? QString(QChar(0x3001)) : QString(", ");
 }

@@ -22,6 +22,9 @@ struct KeyWords {
 
 [[nodiscard]] KeyWords wordsOf(const KeyRow& row);
 
+/// That a search found nothing.
+[[nodiscard]] QString nothingCalled(const QString& searched);
+
 /// What stands between the parts of a list.
 [[nodiscard]] QString listSeparator();
 

@@ -1,5 +1,6 @@
 #include "editor/pictureSet.h"
 
+#include "editor/keyWords.h"
 #include "kit/cellView.h"
 #include "kit/emptyState.h"
 #include "kit/localisation.h"
@@ -126,7 +127,7 @@ void PictureSet::showEmpty() {
         _empty->setTexts(Text("kPicture_none"), Text("kPicture_none_hint"));
     } else if (!_source->filterText().isEmpty()) {
         _empty->setIcon("search");
-        _empty->setTexts(TextWith("kList_nothing_called", _source->filterText()), {}, Text("kList_clear_search"));
+        _empty->setTexts(nothingCalled(_source->filterText()), {}, Text("kList_clear_search"));
     } else {
         _empty->setIcon("image");
         _empty->setTexts(Text("kList_nothing_changed"), Text("kList_nothing_changed_hint"));

@@ -26,6 +26,7 @@ ScreenLegend::ScreenLegend(QWidget* parent)
     _name->setWordWrap(true);
     _name->setTextFormat(Qt::PlainText);
     _places->setProperty("type", "hint");
+    _places->setWordWrap(true);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(textLeft, padding - 2, padding, padding - 2);
     column->setSpacing(2);

@@ -118,6 +118,7 @@ void ScreenPictures::setGrid(bool isGrid) {
 
 void ScreenPictures::retell() {
     _many->setText(Text("kPictures_many"));
+    _many->setMinimumWidth(_many->sizeHint().width());
     _many->setToolTip(Text("kPictures_many_tip"));
     _hint->setText(Text("kPictures_many_hint"));
     _how->setToolTip(Text("kPictures_many_how"));

@@ -8,10 +8,16 @@
 
 namespace zdt {
 
+namespace {
+/// No name or value is longer; a pasted book would be looked for in every row.
+constexpr int longest = 200;
+} // namespace
+
 ZSearchField::ZSearchField(QWidget* parent)
     : QLineEdit(parent)
     , _clear(new QAction(icon(Icon::Close, token::textSecond), {}, this)) {
     setProperty("kind", "search");
+    setMaxLength(longest);
     addAction(icon(Icon::Search, token::textSecond), QLineEdit::LeadingPosition);
     addAction(_clear, QLineEdit::TrailingPosition);
     _clear->setVisible(false);

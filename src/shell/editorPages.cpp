@@ -86,6 +86,8 @@ CEditorPages::CEditorPages(Workbench& bench, QWidget* frame)
 }
 
 void CEditorPages::makeList() {
+    if (_list)
+        _list->bringUpToDate();
     if (_listPlace)
         return;
     _list = makePage<CFullListPage>(_place, _listPlace, _bench);
@@ -121,15 +123,20 @@ CColorAndPictureManagerPage* CEditorPages::screensPage(const QString& module) {
         return place.page;
     place.page = row->make(_place, place.shown, _bench);
     if (place.page) {
-        connect(place.page, &CColorAndPictureManagerPage::edited, this, [this] { _isListOld = true; });
+        connect(place.page, &CColorAndPictureManagerPage::edited, this, [this] {
+            if (_list)
+                _list->setOld();
+        });
         connect(place.page, &CColorAndPictureManagerPage::keyRequested, this, &CEditorPages::showKey);
     }
     return place.page;
 }
 
 void CEditorPages::prepare() {
-    makeList();
+    if (!_listPlace)
+        makeList();
     makeProblems();
+    static_cast<void>(screensPage(screensModules.front().module));
 }
 
 void CEditorPages::showFirst() {
@@ -152,8 +159,6 @@ void CEditorPages::showModule(const QString& module) {
 }
 
 void CEditorPages::showList(const QString& module) {
-    if (_list && std::exchange(_isListOld, false))
-        _list->refresh();
     _place.setCurrentWidget(_listPlace);
     checkRow(_list ? rowFor(*_list) : module);
     emit changed();

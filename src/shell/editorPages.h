@@ -75,7 +75,6 @@ private:
         QWidget* shown = nullptr; ///< The page, or what says why there is none.
     };
     std::map<QString, ScreensPlace> _screens; ///< By module.
-    bool _isListOld = false;                  ///< Something was changed elsewhere.
     QWidget* _listPlace = nullptr;            ///< The page, or what says why there is none.
     QWidget* _problemPlace = nullptr;
 };

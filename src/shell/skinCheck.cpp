@@ -17,6 +17,9 @@ constexpr std::array skinFiles{
     "style.qss",    "English.ini",  "Chinese.ini",    "Key.ini",
 };
 
+/// The folder of what stands on the phone's screens.
+constexpr const char* screenPictures = "simplepic";
+
 /// What a file that nothing else can tell to be whole ends with; a layout is told when it is read.
 QByteArray endMark(const QString& path) {
     return path.endsWith(".qss") ? "/* end */" : path.endsWith(".ini") ? "# end" : "";
@@ -35,6 +38,11 @@ bool isWhole(const QString& path) {
 
 QStringList missingSkinFiles(const QStringList& folders) {
     QStringList missing;
+    const bool hasScreens = std::any_of(folders.begin(), folders.end(), [](const QString& folder) {
+        return QDir(QDir(folder).filePath(screenPictures)).exists();
+    });
+    if (!hasScreens)
+        missing += screenPictures;
     for (const char* name : skinFiles) {
         const bool found = std::any_of(folders.begin(), folders.end(),
                                        [&](const QString& folder) { return isWhole(QDir(folder).filePath(name)); });

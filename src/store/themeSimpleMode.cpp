@@ -1,6 +1,7 @@
 #include "modules/simpleModeNode.h"
 #include "store/themeResource.h"
 #include "support/assertion.h"
+#include "support/files.h"
 
 /// The shared settings of an open theme.
 namespace zdt {
@@ -52,6 +53,9 @@ bool ThemeResource::applySimple(const KeyPath& keyPath, const std::string& name)
 }
 
 int ThemeResource::changeSimple(const KeyPath& keyPath, const std::string& name, const std::function<int()>& change) {
+    // Its folder would come back with one file in it.
+    if (!isFolder(themeDirectory(_name, false)))
+        return returnCode::copyFailed;
     std::vector<std::pair<ResNode*, std::string>> before;
     for (ResNode* each : simpleSources(keyPath, name))
         before.emplace_back(each, each->value());

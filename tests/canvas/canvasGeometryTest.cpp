@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <limits>
 #include <vector>
 
 namespace zdt {
@@ -108,7 +109,11 @@ TEST(CanvasGeometry, PartsFollowTheirGroup) {
 TEST(CanvasGeometry, WildNumbersStayWithinBounds) {
     const EdgeRect wild = edgesOf({INT_MAX, INT_MIN, INT_MAX, INT_MIN});
     EXPECT_EQ(wild, (EdgeRect{1000000, -1000000, 1000000, -1000000}));
-    EXPECT_EQ(wild.movedBy({1000, -1000}), wild);
+    EXPECT_EQ(wild.movedBy({INT_MAX, INT_MIN}), wild);
+    for (const double ratio : {1e30, std::numeric_limits<double>::infinity()}) {
+        const ResizeRule rule{Corner::bottomRight, true, ratio};
+        EXPECT_EQ(resized({0, 0, 100, 100}, rule, {10, 0}, low), (EdgeRect{0, 0, 25, 1000000})) << ratio;
+    }
     EXPECT_TRUE(fittedPlace({100, 100}, wild).isEmpty());
 }
 

@@ -14,6 +14,9 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include <functional>
+#include <utility>
+
 namespace zdt::test {
 namespace {
 
@@ -106,6 +109,42 @@ TEST_F(DrawPictrueTest, KeyboardWalksFromKeyToKey) {
     EXPECT_EQ(picked.last()[0].toString(), "dot");
 }
 
+TEST_F(DrawPictrueTest, ClickPicksWhatIsPointedAt) {
+    picture.setInspecting(true);
+    QSignalSpy pointed(&picture, &CDrawPictrue::pointed);
+    const auto leave = [this] {
+        QEvent event(QEvent::Leave);
+        QApplication::sendEvent(&picture, &event);
+    };
+    const auto farther = [this] { QTest::mouseMove(&picture, {105, 105}); };
+    const auto larger = [this] { picture.resize(271, 542); };
+    for (const std::function<void()>& between : {std::function<void()>(leave), {farther}, {larger}}) {
+        EXPECT_EQ(clicked({130, 130}), "dot");
+        between();
+        QTest::mouseMove(&picture, {131, 130});
+        EXPECT_EQ(clicked({130, 130}), "dot");
+        EXPECT_EQ(pointed.last()[0].toString(), "dot");
+        QTest::mouseMove(&picture, {5, 5});
+    }
+    // From the second place of a key the keyboard goes on from the key.
+    QTest::mouseMove(&picture, {40, 405});
+    QTest::keyClick(&picture, Qt::Key_Left);
+    QTest::keyClick(&picture, Qt::Key_Left);
+    EXPECT_EQ(pointed.last()[0].toString(), "box");
+}
+
+TEST_F(DrawPictrueTest, OutlinesOfAnotherListAreGone) {
+    picture.setOutlined(composition->partsOf("box"));
+    picture.pulseParts(composition->partsOf("dot"));
+    composition->setDescription({composition->parts(), ""});
+    picture.refresh();
+    EXPECT_EQ(picture.outlined(), composition->partsOf("box"));
+    composition->setDescription({{composition->parts().back()}, ""});
+    picture.refresh();
+    EXPECT_TRUE(picture.outlined().empty());
+    EXPECT_FALSE(picture.isPulsing());
+}
+
 TEST_F(DrawPictrueTest, ShowsWhatChangedAndItsOutlines) {
     const auto at = [this](const QPoint& point) { return picture.grab().toImage().pixelColor(point); };
     EXPECT_EQ(at({110, 110}), QColor(Qt::green));
@@ -116,6 +155,10 @@ TEST_F(DrawPictrueTest, ShowsWhatChangedAndItsOutlines) {
     picture.setOutlined(composition->partsOf("box"));
     EXPECT_NE(at({97, 150}), before);
     EXPECT_EQ(at({90, 150}), before);
+    // A large place keeps its colour, which is judged.
+    const QColor back = at({30, 30});
+    picture.setOutlined(composition->partsOf("back"));
+    EXPECT_EQ(at({30, 30}), back);
     picture.setOutlined({99});
     picture.pulseParts(composition->partsOf("dot"));
     EXPECT_TRUE(picture.isPulsing());
@@ -155,8 +198,36 @@ TEST(PhoneView, FitsZoomsAboutThePointerAndPans) {
     EXPECT_EQ(view.zoom(), 200);
     const QPoint frameAfter = view.picture().toFrame(view.picture().mapFrom(&view, pointer));
     EXPECT_LE(std::abs(frameAfter.y() - frameBefore.y()), 8);
+    view.setZoom(100);
+    const auto zoomBy = [&view, pointer](int units) {
+        QWheelEvent step(pointer, view.mapToGlobal(pointer), {}, {0, units}, Qt::NoButton, Qt::ControlModifier,
+                         Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&view, &step);
+    };
+    for (int i = 0; i < 60; ++i)
+        zoomBy(2);
+    EXPECT_EQ(view.zoom(), 110);
     view.resize(40, 40);
     EXPECT_GT(view.picture().width(), 0);
+}
+
+TEST(PhoneView, FollowsTheKeyboard) {
+    TemporaryFolder folder;
+    ImagePoints points{{folder.path(), folder.path()}};
+    const auto composition = std::make_shared<PreviewComposition>(points);
+    composition->setDescription(
+        {{part({10, 10, 80, 80}, 0xff102030, "first"), part({900, 2000, 100, 100}, 0xff00ff00, "last")}, ""});
+    ZPhoneView view;
+    view.resize(400, 647);
+    view.show();
+    view.setZoom(200);
+    CDrawPictrue& picture = view.picture();
+    picture.setComposition(composition);
+    picture.setInspecting(true);
+    for (const auto& [key, part] : {std::pair(Qt::Key_End, 1U), {Qt::Key_Home, 0U}}) {
+        QTest::keyClick(&picture, key);
+        EXPECT_TRUE(view.rect().contains(picture.placeOf(part).translated(picture.pos()))) << part;
+    }
 }
 
 TEST(DrawPictureCell, LongCaptionIsToldInFull) {

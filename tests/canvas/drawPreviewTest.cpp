@@ -9,9 +9,11 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QMouseEvent>
 #include <QTest>
 
 #include <climits>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -95,7 +97,11 @@ protected:
     }
 
     void press(const QPoint& design) { QTest::mousePress(&canvas, Qt::LeftButton, {}, design / 4); }
-    void moveTo(const QPoint& design) { QTest::mouseMove(&canvas, design / 4); }
+    void moveTo(const QPoint& design, Qt::MouseButtons held = Qt::LeftButton) {
+        const QPointF point = design / 4;
+        QMouseEvent event(QEvent::MouseMove, point, canvas.mapToGlobal(point), Qt::NoButton, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(&canvas, &event);
+    }
     void release(const QPoint& design) { QTest::mouseRelease(&canvas, Qt::LeftButton, {}, design / 4); }
     void drag(const QPoint& from, const QPoint& to) {
         press(from);
@@ -178,6 +184,48 @@ TEST_F(DrawPreview, EscapeTakesBackADrag) {
     release({900, 900});
     EXPECT_EQ(item.rect(), (EdgeRect{200, 200, 600, 600}));
     EXPECT_EQ(takeHeard().size(), 1);
+}
+
+TEST_F(DrawPreview, ALostReleaseTakesTheDragBack) {
+    const CDrawItem& item = add("one", {200, 200, 600, 600});
+    const EdgeRect place = item.rect();
+    const auto deactivate = [&](QEvent::Type type) {
+        QEvent event(type);
+        QCoreApplication::sendEvent(&canvas, &event);
+    };
+    const std::vector<std::pair<const char*, std::function<void()>>> losses{
+        {"a move with no button",
+         [&] {
+             moveTo({700, 700}, Qt::NoButton);
+         }},
+        {"another window", [&] { deactivate(QEvent::WindowDeactivate); }},
+        {"a box", [&] { deactivate(QEvent::WindowBlocked); }},
+        {"a press elsewhere",
+         [&] {
+             press({1000, 2000});
+         }},
+    };
+    for (const auto& [what, lose] : losses) {
+        press({400, 400});
+        moveTo({500, 500});
+        EXPECT_NE(item.rect(), place) << what;
+        lose();
+        EXPECT_EQ(canvas.handState(), HandState::idle) << what;
+        EXPECT_EQ(item.rect(), place) << what;
+        release({500, 500});
+    }
+    EXPECT_FALSE(takeHeard().contains(notify::Nodfiy_SendMsg_MouseMove_Item));
+}
+
+TEST_F(DrawPreview, BesideTheScreenNothingIsTaken) {
+    canvas.resize(470, 540);
+    CDrawItem& item = add("one", {0, 200, 400, 600});
+    EXPECT_EQ(canvas.pressEffect({100, 100}), PressEffect::move);
+    EXPECT_EQ(canvas.pressEffect({99, 100}), PressEffect::nothing);
+    canvas.setSelectedItem(&item);
+    QTest::mousePress(&canvas, Qt::LeftButton, {}, {99, 100});
+    EXPECT_EQ(canvas.selectedItem(), nullptr);
+    EXPECT_EQ(canvas.handState(), HandState::idle);
 }
 
 TEST_F(DrawPreview, FlagsHoldAnItem) {
@@ -333,6 +381,13 @@ TEST_F(DrawPreview, CapturesAreToldAfterAPaintAndHoldTheThemeAlone) {
     canvas.hide();
     canvas.requestCapture(4);
     EXPECT_EQ(takeHeard(), QStringList{notify::Notify_ScreenCapture_VideoUnlockMsg});
+    canvas.show();
+    static_cast<void>(QTest::qWaitForWindowExposed(&canvas));
+    for (const int kind : {1, 4, 1})
+        canvas.requestCapture(kind);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !heard.names.isEmpty(); }, 2000));
+    EXPECT_EQ(takeHeard(),
+              (QStringList{notify::Notify_ScreenCapture_ChangeUnlockMsg, notify::Notify_ScreenCapture_VideoUnlockMsg}));
 
     const std::string file = store.path() + "capture.jpg";
     ASSERT_TRUE(canvas.saveJpeg(file, 90));
@@ -402,32 +457,60 @@ TEST_F(DrawPreview, PlayingEndsWithANotification) {
     EXPECT_EQ(heard.last.sender, &owner);
     EXPECT_FALSE(canvas.isPlaying());
     canvas.startAnimation();
+    canvas.stopAnimation();
+    EXPECT_EQ(takeHeard(), QStringList()) << "whoever stops it knows";
+    canvas.startAnimation();
+    pendant.animations.clear();
+    pendant.animations.push_back(std::make_unique<CountedAnimation>(1, -1, true));
+    EXPECT_FALSE(QTest::qWaitFor([&] { return !canvas.isPlaying(); }, 200)) << "what it gained plays too";
     canvas.removeItem(pendant);
     EXPECT_FALSE(canvas.isPlaying()) << "before an item is freed";
+    EXPECT_EQ(takeHeard(), QStringList{notify::Notify_Pendatn_Play_Stop_Msg});
+}
+
+TEST_F(DrawPreview, WhatPlaysShowsUntilItEnds) {
+    QImage red(100, 100, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    auto& group = add<CDrawContainer>("group", {200, 200, 600, 600});
+    auto pendant = std::make_unique<CDrawPendant>("pendant");
+    pendant->SetRect({300, 300, 400, 400});
+    pendant->setPicture(red);
+    pendant->animations.push_back(std::make_unique<CountedAnimation>(2, -1, false));
+    group.children.push_back(std::move(pendant));
+    const auto seen = [&] { return canvas.grab().toImage().pixelColor(87, 87); };
+    canvas.refresh();
+    EXPECT_EQ(seen(), QColor(Qt::red));
+    canvas.startAnimation();
+    EXPECT_NEAR(seen().green(), 127, 2) << "half of it, though it lies in a container";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !canvas.isPlaying(); }, 5000));
+    EXPECT_EQ(seen(), QColor(Qt::red)) << "as the author placed it";
 }
 
 TEST(AnimationRun, StepsAtThePhonesSpeedAndRepeatsWhatRepeats) {
     CountedAnimation once(2, -1, false);
-    CountedAnimation paused(2, 0, false);
-    CountedAnimation looped(2, -1, true);
+    CountedAnimation again(2, 0, false);
+    CountedAnimation paused(2, 90, false);
+    CountedAnimation looped(2, 500, true);
+    const ItemAnimations all{&once, &again, &paused, &looped};
     AnimationRun run;
-    EXPECT_EQ(run.pass(0), AnimationRun::Pass::unchanged);
-    run.start({&once, &paused, &looped}, 0);
+    EXPECT_EQ(run.pass(all, 0), AnimationRun::Pass::unchanged);
+    run.start(all, 0);
     int steps = 0;
     for (int now = 0; now <= 1000; now += animationPass)
-        steps += run.pass(now) == AnimationRun::Pass::changed;
+        steps += run.pass(all, now) == AnimationRun::Pass::changed;
     EXPECT_EQ(steps, 20) << "one in 50 ms, though a pass comes every 20";
     EXPECT_EQ(once.advanced, 2);
-    EXPECT_EQ(paused.advanced, 20);
-    EXPECT_EQ(looped.advanced, 20);
-    EXPECT_EQ(run.pass(9000), AnimationRun::Pass::changed);
-    EXPECT_EQ(run.pass(9049), AnimationRun::Pass::unchanged) << "what was missed isn't caught up";
+    EXPECT_EQ(again.advanced, 20);
+    EXPECT_EQ(paused.advanced, 10) << "two steps, and two of waiting for 90 ms";
+    EXPECT_EQ(looped.advanced, 20) << "a loop doesn't wait";
+    EXPECT_EQ(run.pass(all, 9000), AnimationRun::Pass::changed);
+    EXPECT_EQ(run.pass(all, 9049), AnimationRun::Pass::unchanged) << "what was missed isn't caught up";
     run.start({&once}, 0);
-    EXPECT_EQ(run.pass(50), AnimationRun::Pass::changed);
-    EXPECT_EQ(run.pass(100), AnimationRun::Pass::changed);
-    EXPECT_EQ(run.pass(120), AnimationRun::Pass::ended);
+    EXPECT_EQ(run.pass({&once}, 50), AnimationRun::Pass::changed);
+    EXPECT_EQ(run.pass({&once}, 100), AnimationRun::Pass::changed);
+    EXPECT_EQ(run.pass({&once}, 120), AnimationRun::Pass::ended);
     EXPECT_FALSE(run.isPlaying());
-    EXPECT_EQ(run.pass(140), AnimationRun::Pass::unchanged);
+    EXPECT_EQ(run.pass({&once}, 140), AnimationRun::Pass::unchanged);
 }
 
 } // namespace

@@ -1,14 +1,18 @@
 #include "canvas/imagePoints.h"
 
+#include "canvas/layerPainting.h"
 #include "canvas/shapes.h"
 #include "canvas/tint.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
+#include <csignal>
 #include <cstring>
 
 namespace zdt::test {
@@ -146,8 +150,10 @@ TEST_F(ImagePointsTest, OnlyPicturesOfTheSkinAreRecorded) {
     const std::string tooLong = saved(folder, deep + std::string(left + 1, 'n') + ".png", disc({8, 8}));
     const std::string elsewhere = saved(folder, "theme/a.png", disc({8, 8}));
     const std::string otherSkin = saved(folder, "theme/skin/a.png", disc({8, 8}));
+    // Its head, from which its size is learnt, isn't that of the kind that the points are of.
+    const std::string photo = saved(folder, "skin/ZDThemeDesign/a.jpg", disc({8, 8}));
     ImagePoints all = points();
-    for (const std::string& path : {elsewhere, otherSkin, tooLong}) {
+    for (const std::string& path : {elsewhere, otherSkin, tooLong, photo}) {
         EXPECT_TRUE(all.of(path)) << path;
         EXPECT_EQ(bytes(), "") << path;
     }
@@ -157,18 +163,79 @@ TEST_F(ImagePointsTest, OnlyPicturesOfTheSkinAreRecorded) {
     EXPECT_FALSE(all.of(folder.write("skin/ZDThemeDesign/text.png", "text")));
 }
 
-TEST_F(ImagePointsTest, ShippedRecordsAreReadAndCarriedOver) {
-    const std::string path = add("a.png", {20, 20});
-    ASSERT_TRUE(points().of(path));
-    const std::string shipped = folder.write("program/skin/ZDThemeDesign/ImageInfo.desc", bytes());
+TEST_F(ImagePointsTest, ShippedRecordsAreReadForShippedPicturesAlone) {
+    const std::string name = "skin/ZDThemeDesign/simplepic/a.png";
+    ASSERT_TRUE(points().of(add("a.png", {20, 20})));
+    static_cast<void>(folder.write("program/skin/ZDThemeDesign/ImageInfo.desc", bytes()));
     ASSERT_EQ(::unlink(desc.c_str()), 0);
-    swap(path);
-    ImagePoints running = points();
-    EXPECT_EQ(running.of(path)->points(), listed(disc({20, 20})));
+    ASSERT_EQ(::unlink(folder.path(name).c_str()), 0);
+    const std::string shipped = folder.write("program/" + name, "");
+    swap(shipped);
+    EXPECT_EQ(points().of("./" + name)->points(), listed(disc({20, 20})));
     EXPECT_EQ(bytes(), "");
-    ASSERT_TRUE(running.of(add("b.png", {12, 12})));
+    // The author's own picture is older than what was shipped.
+    const std::string own = add("a.png", {12, 12}, 500);
+    EXPECT_EQ(points().of("./" + name)->points(), listed(disc({12, 12})));
+}
+
+TEST_F(ImagePointsTest, TwoProcessesKeepTheFileWhole) {
+    const std::string first = add("a.png", {20, 20});
+    const std::string second = add("b.png", {12, 12});
+    const std::string third = add("c.png", {9, 9});
+    {
+        ImagePoints one = points();
+        ImagePoints other = points();
+        ASSERT_TRUE(one.of(first));
+        ASSERT_TRUE(other.of(second));
+        ASSERT_TRUE(one.of(third));
+    }
+    const std::size_t each = headSize * 3 + pointSize * (listed(disc({20, 20})).size() + listed(disc({12, 12})).size() +
+                                                         listed(disc({9, 9})).size());
+    EXPECT_LE(bytes().size(), each);
+    for (const std::string& path : {first, second, third})
+        EXPECT_EQ(points().of(path)->points(), listed(QImage(QString::fromStdString(path))));
+
+    // Where a record was known, another picture's of as many points stands now.
+    ImagePoints known = points();
+    std::string other = bytes();
+    const std::size_t name = other.find("a.png");
+    ASSERT_NE(name, std::string::npos);
+    other[name] = 'd';
+    other[name - std::strlen("skin/ZDThemeDesign/simplepic/") - 4 + headSize + 8] = 77;
+    put(other);
+    EXPECT_EQ(known.of(first)->points(), listed(disc({20, 20})));
+    EXPECT_EQ(known.of(third)->points(), listed(disc({9, 9})));
+}
+
+TEST_F(ImagePointsTest, FileInUseOrOfAnotherKindIsLeftAlone) {
+    const std::string path = add("a.png", {20, 20});
+    put("");
+    const int held = ::open(desc.c_str(), O_RDWR | O_CLOEXEC);
+    ASSERT_EQ(::flock(held, LOCK_EX), 0);
     EXPECT_EQ(points().of(path)->points(), listed(disc({20, 20})));
-    EXPECT_GT(bytes().size(), readFile(shipped).size());
+    EXPECT_EQ(bytes(), "");
+    ::close(held);
+    ASSERT_EQ(::unlink(desc.c_str()), 0);
+    ASSERT_EQ(::mkfifo(desc.c_str(), 0600), 0);
+    EXPECT_EQ(points().of(path)->points(), listed(disc({20, 20})));
+}
+
+TEST_F(ImagePointsTest, FullDiskLeavesWhatWasWhole) {
+    ASSERT_TRUE(points().of(add("a.png", {20, 20})));
+    const std::string whole = bytes();
+    struct rlimit before {};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto signalled = std::signal(SIGXFSZ, SIG_IGN);
+    const std::string next = add("b.png", {40, 40});
+    const rlimit tight{whole.size() + headSize + 100, before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &tight), 0);
+    {
+        ImagePoints running = points();
+        EXPECT_EQ(running.of(next)->points(), listed(disc({40, 40})));
+    }
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, signalled);
+    EXPECT_EQ(bytes(), whole);
 }
 
 TEST_F(ImagePointsTest, FolderThatCannotBeWrittenOnlyKeepsNothing) {
@@ -183,10 +250,11 @@ TEST_F(ImagePointsTest, FolderThatCannotBeWrittenOnlyKeepsNothing) {
 TEST(Tint, EqualsAWalkOverThePixels) {
     const QImage picture = disc({41, 33}, QColor(10, 20, 30, 200));
     const InkMask mask = InkMask::ofImage(picture);
-    EXPECT_EQ(mask.points(), InkMask::ofPoints(picture.size(), mask.points()).points());
+    EXPECT_EQ(mask.pointCount(), mask.points().size());
     for (const QRgb colour : {0xffffffffU, 0xff102030U, 0x80ff8000U, 0x01ffffffU, 0x00ffffffU}) {
-        const QImage image = tinted(mask, colour);
-        ASSERT_EQ(image.size(), picture.size());
+        QImage image(picture.size(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(0);
+        paintShape(FrameLines(image), image.rect(), mask, tintTable(colour), QPoint());
         for (int y = 0; y < picture.height(); ++y) {
             for (int x = 0; x < picture.width(); ++x) {
                 const int alpha = qAlpha(picture.pixel(x, y)) * qAlpha(colour) / 255;

@@ -163,6 +163,16 @@ TEST(BackgroundModes, EachSizeAndMode) {
          {.fitAlternate = true, .source = EdgeRect{10, 20, 110, 220}},
          low,
          {{10, 20, 385, 200}, {0, 0, 1080, 1920}}},
+        {"a part beyond the upper left",
+         {800, 800},
+         {.source = EdgeRect{-100, -50, 100, 150}},
+         low,
+         {{0, 0, 100, 150}, {540, 480, 540, 1440}}},
+        {"a part beyond the right",
+         {800, 800},
+         {.source = EdgeRect{700, 0, 900, 800}},
+         high,
+         {{700, 0, 100, 800}, {0, 0, 540, 2160}}},
     };
     for (const Case& one : cases)
         EXPECT_EQ(backgroundPlace(one.picture, one.modes, one.space), one.place) << one.what;

@@ -4,6 +4,7 @@
 #include "canvas/imagePoints.h"
 #include "canvas/overlayPainting.h"
 #include "canvas/shapes.h"
+#include "support/files.h"
 
 #include <gtest/gtest.h>
 
@@ -126,6 +127,46 @@ TEST_F(PreviewCompositionTest, PartsAreFoundWhereTheyPaint) {
     EXPECT_EQ(composition.inkOf(6), QRect(0, 1800, 1080, 360));
     EXPECT_EQ(composition.partsOf("picture"), (Indices{3, 4}));
     EXPECT_EQ(composition.partsOf(""), Indices{});
+}
+
+TEST_F(PreviewCompositionTest, TransparentBlackIsAColourOfAKey) {
+    const std::string shape = saved(folder, "shape.png", disc({200, 100}));
+    for (const std::string& picture : {shape, std::string()}) {
+        composition.setDescription({{part({100, 100, 200, 100}, 0xff102030, "key", picture)}, ""});
+        composition.setColour("key", 0);
+        const QImage edited = composition.frame();
+        EXPECT_EQ(edited.pixelColor(200, 150), QColor(Qt::white));
+        PreviewDescription anew{composition.parts(), ""};
+        anew.parts[0].colorNormal = 0;
+        composition.setDescription({});
+        composition.setDescription(anew);
+        EXPECT_EQ(composition.frame(), edited) << picture;
+    }
+}
+
+TEST_F(PreviewCompositionTest, LayerGivenUpIsPaintedAnewIfItsFileWasReplaced) {
+    // Each takes 9 MiB of the screen's size: more than are kept.
+    constexpr int count = 14;
+    const auto replaceAll = [this](QColor colour) {
+        QImage image(previewFrame.size(), QImage::Format_ARGB32);
+        image.fill(colour);
+        const std::string first = saved(folder, "first.png", image);
+        for (int i = 0; i < count; ++i)
+            EXPECT_TRUE(copyFile(first, folder.path(std::to_string(i) + ".png")));
+    };
+    replaceAll(QColor(0, 0, 255, 20));
+    PreviewDescription made;
+    for (int i = 0; i < count; ++i)
+        made.parts.push_back(part({0, 0, 0, 0}, 0, "k", folder.path(std::to_string(i) + ".png")));
+    composition.setDescription(made);
+    const QRgb before = composition.frame().pixel(8, 8);
+    replaceAll(QColor(255, 0, 0, 99));
+    // Draws a small place anew, and reads for it what was given up.
+    composition.setOverlays({{5, 5, 9, 9, 0, "", false, false, ""}});
+    const QImage frame = composition.frame();
+    EXPECT_TRUE(composition.isComposed());
+    EXPECT_NE(frame.pixel(8, 8), before);
+    EXPECT_EQ(frame.pixel(8, 8), frame.pixel(1000, 2100));
 }
 
 TEST_F(PreviewCompositionTest, WhatCannotBeDrawnIsLeftOut) {

@@ -1,9 +1,11 @@
 #include "assets/screenArt.h"
 #include "assets/screenWriter.h"
+#include "canvas/previewComposition.h"
 #include "canvas/screens/screenTable.h"
-#include "common/storeFixture.h"
+#include "editor/colourItems.h"
+#include "editor/screenParts.h"
 #include "model/resNode.h"
-#include "sheets/composedScreen.h"
+#include "sheets/skinnedStore.h"
 #include "support/atomicFile.h"
 #include "support/files.h"
 
@@ -13,12 +15,15 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <set>
 #include <span>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace zdt::test {
 
@@ -100,26 +105,108 @@ std::string_view screenOf(const std::string& key, const std::string& group) {
     return found == std::end(shownElsewhere) ? std::string_view(group) : found->second;
 }
 
-/// How many pixels of the setting's screen show a setting, where nothing above covers it.
-int markedPixels(const ThemeResource& theme, const std::string& module, const std::string& group,
-                 const std::string& item) {
-    const std::string key = module + "/" + group + "/" + item;
-    const std::string_view name = screenOf(key, group);
-    const std::span<const Screen> screens = screensOf(module);
-    const auto screen = std::find_if(screens.begin(), screens.end(), [&](const Screen& each) {
-        return each.name == name && !(each.absentFrom & generationBit(theme.version()));
-    });
-    if (screen == screens.end())
-        return 0;
-    const QImage marked = composeScreen(*screen, theme, {false, false, key});
-    const QImage plain = composeScreen(*screen, theme, {false, false, "none"});
+/// The screen that is to show a setting; null where its generation has none.
+const Screen* ownScreen(const ThemeResource& theme, const ItemPath& path) {
+    const std::vector<const Screen*> shown = shownScreens(theme, path.module);
+    const std::string_view name = screenOf(path.key(), path.group);
+    const auto found = std::find_if(shown.begin(), shown.end(), [&](const Screen* each) { return each->name == name; });
+    return found == shown.end() ? nullptr : *found;
+}
+
+int pixelsThatDiffer(const QImage& one, const QImage& other) {
+    constexpr int clearly = 24;
     int count = 0;
-    for (int y = 0; y < marked.height(); ++y) {
-        for (int x = 0; x < marked.width(); ++x)
-            count += qRed(marked.pixel(x, y)) > qRed(plain.pixel(x, y)) + 24;
+    for (int y = 0; y < one.height(); ++y) {
+        const auto* left = reinterpret_cast<const QRgb*>(one.constScanLine(y));
+        const auto* right = reinterpret_cast<const QRgb*>(other.constScanLine(y));
+        for (int x = 0; x < one.width(); ++x)
+            count += std::abs(qRed(left[x]) - qRed(right[x])) > clearly ||
+                     std::abs(qGreen(left[x]) - qGreen(right[x])) > clearly ||
+                     std::abs(qBlue(left[x]) - qBlue(right[x])) > clearly;
     }
     return count;
 }
+bool isSwitch(const ThemeResource& theme, const ItemPath& path) {
+    const std::string value = theme.simpleValue(path.block(), path.item);
+    return value == "true" || value == "false";
+}
+
+template <typename Check>
+void forEachItem(const ThemeResource& theme, const Check& check) {
+    for (const std::string& module : theme.simpleNames({})) {
+        for (const std::string& group : theme.simpleNames({module})) {
+            for (const std::string& item : theme.simpleNames({module, group})) {
+                if (theme.simpleTakesPart({module, group}, item))
+                    check(ItemPath{module, group, item});
+            }
+        }
+    }
+}
+
+/// A theme's screens as the pages show them, all that can be turned off being on.
+class ShownScreens {
+public:
+    explicit ShownScreens(ThemeResource& theme)
+        : _theme(theme) {
+        forEachItem(theme, [&](const ItemPath& path) {
+            if (isSwitch(theme, path)) {
+                EXPECT_EQ(theme.setSimpleValue(path.block(), path.item, "true"), 0);
+            }
+        });
+    }
+
+    /// How many pixels of a setting's own screen change with it.
+    int pixelsOf(const ItemPath& path) {
+        const Screen* screen = ownScreen(_theme, path);
+        if (!screen)
+            return 0;
+        Shown& shown = shownOf(*screen);
+        const PreviewDescription after = changed(*screen, path);
+        // Other settings may share a source with it: what they show doesn't count.
+        PreviewDescription alone = shown.parts;
+        for (std::size_t part = 0; part < alone.parts.size(); ++part) {
+            if (after.parts[part].key == path.key() || after.parts[part].isVisible != alone.parts[part].isVisible)
+                alone.parts[part] = after.parts[part];
+        }
+        shown.composition.setDescription(std::move(alone));
+        return pixelsThatDiffer(shown.frame, shown.composition.frame());
+    }
+
+private:
+    struct Shown {
+        PreviewDescription parts;
+        PreviewComposition composition;
+        QImage frame;
+    };
+
+    /// A screen as it is without a change.
+    Shown& shownOf(const Screen& screen) {
+        const auto [found, isNew] = _shown.try_emplace(&screen);
+        Shown& shown = found->second;
+        if (isNew) {
+            shown.parts = describeScreen(_theme, screen, false);
+            shown.composition.setDescription(shown.parts);
+            shown.frame = shown.composition.frame().copy();
+        }
+        return shown;
+    }
+
+    /// The screen with the setting at what no theme has, which is put back.
+    PreviewDescription changed(const Screen& screen, const ItemPath& path) {
+        const std::vector<ResNode*> sources = _theme.simpleSources(path.block(), path.item);
+        std::vector<std::string> values;
+        for (const ResNode* source : sources)
+            values.push_back(source->value());
+        EXPECT_EQ(_theme.setSimpleValue(path.block(), path.item, isSwitch(_theme, path) ? "false" : "#ff00ff"), 0);
+        PreviewDescription description = describeScreen(_theme, screen, false);
+        for (std::size_t source = 0; source < sources.size(); ++source)
+            sources[source]->setRawValue(values[source]);
+        return description;
+    }
+
+    ThemeResource& _theme;
+    std::map<const Screen*, Shown> _shown;
+};
 
 } // namespace
 
@@ -190,22 +277,34 @@ TEST(ScreenTable, KeysAreThoseOfTheThemes) {
     }
 }
 
-/// An author who changes a setting sees it on the screen that bears the name of the setting's group.
-TEST(ScreenTable, EverySettingIsSeenOnItsOwnScreen) {
-    constexpr int clearly = 300; // Pixels, as many as a small word has.
-    const TemporaryStore store;
+/// What a screen shows is there: a picture of the theme, or one that was drawn for the skin.
+TEST(ScreenTable, NoPartLacksItsPicture) {
+    const SkinnedStore store;
     for (const unsigned generation : {0U, 1U, 2U}) {
-        const auto theme = store.create("items" + std::to_string(generation), {generation});
-        for (const std::string& module : theme->simpleNames({})) {
-            for (const std::string& group : theme->simpleNames({module})) {
-                for (const std::string& item : theme->simpleNames({module, group})) {
-                    if (theme->simpleTakesPart({module, group}, item)) {
-                        EXPECT_GT(markedPixels(*theme, module, group, item), clearly)
-                            << "generation " << generation << ": " << module << "/" << group << "/" << item;
-                    }
+        const auto theme = store.create("parts" + std::to_string(generation), {generation});
+        for (const Screen& screen : allScreens()) {
+            for (const bool chinese : {false, true}) {
+                for (const PreviewPart& part : describeScreen(*theme, screen, chinese).parts) {
+                    const bool isFill = part.isColorFill && part.picture.empty();
+                    EXPECT_TRUE(isFill || pathExists(part.picture))
+                        << "generation " << generation << ", " << screen.module << "/" << screen.name << ": "
+                        << part.key << " " << part.picture;
                 }
             }
         }
+    }
+}
+
+/// An author who changes a setting sees it on the screen that bears the name of the setting's group.
+TEST(ScreenTable, EverySettingIsSeenOnItsOwnScreen) {
+    constexpr int clearly = 300; // Pixels, as many as a small word has.
+    const SkinnedStore store;
+    for (const unsigned generation : {0U, 1U, 2U}) {
+        const auto theme = store.create("items" + std::to_string(generation), {generation});
+        ShownScreens screens(*theme);
+        forEachItem(*theme, [&](const ItemPath& path) {
+            EXPECT_GT(screens.pixelsOf(path), clearly) << "generation " << generation << ": " << path.key();
+        });
     }
 }
 
@@ -232,10 +331,12 @@ TEST(ScreenPictures, AreWrittenWhereTheyDiffer) {
     const auto layer = std::find_if(screen.layers.begin(), screen.layers.end(), isDrawn);
     ASSERT_NE(layer, screen.layers.end());
     const std::string path = skin.path(layerFile(screen, *layer, true));
-    const std::string stale = skin.path("simplepic/en/contacts/dial/no_longer.png");
+    const std::string stale = skin.path("simplepic/en/contacts/no longer/title.png");
     ASSERT_TRUE(makePath(stale) && writeFile(stale, "x") && makePath(path) && writeFile(path, "broken"));
     ASSERT_TRUE(assets::writeScreens(skin.path()));
     EXPECT_FALSE(pathExists(stale));
+    EXPECT_FALSE(pathExists(skin.path("simplepic/en/contacts/no longer")));
+    EXPECT_TRUE(pathExists(skin.path("simplepic/en/contacts/contact list/title.png")));
     EXPECT_EQ(QImage(QString::fromStdString(path)).size(), QSize(layer->place.width, layer->place.height));
 
     const auto past = std::filesystem::file_time_type::clock::now() - std::chrono::hours(1);

@@ -68,6 +68,17 @@ void addHead(ScreenBuilder& screen) {
     addAction(screen, "video", 828, sign::videocam, {"Video", "视频"});
 }
 
+/// Below the cover: the list's, and before generation 9 another behind the card.
+void addGround(ScreenBuilder& screen) {
+    constexpr std::string_view list = "contacts/contact_detail_list_background.9.png";
+    screen.leaveOut(typeMask::generation9);
+    screen.picture("contacts/people_background.9.png", {0, coverHeight, phoneWidth, listTop - coverHeight});
+    screen.picture(list, {0, listTop, phoneWidth, bottomBarTop - listTop});
+    screen.leaveOut(typeMask::generation5 | typeMask::generation8);
+    screen.picture(list, {0, coverHeight, phoneWidth, bottomBarTop - coverHeight});
+    screen.leaveOut(0);
+}
+
 void addToolbar(ScreenBuilder& screen) {
     addSeparator(screen, bottomBarTop - 3, 0, phoneWidth);
     screen.fill({0, bottomBarTop, phoneWidth, phoneHeight - bottomBarTop}, background);
@@ -78,34 +89,38 @@ void addToolbar(ScreenBuilder& screen) {
                 4, text, text);
 }
 
+constexpr std::string_view plainLine = "contacts/contact_textfield_default_holo_light.9.png";
+constexpr std::string_view activeLine = "contacts/textfield_activated_holo_light.9.png";
+constexpr std::string_view longLine = "contacts/contact_edit_text_background.9.png";
+
 struct Field {
     char16_t sign;
     Words label;
     Words value;
-    bool active;
+    std::string_view line; ///< The picture before generation 9.
+
+    [[nodiscard]] constexpr bool isActive() const { return line == activeLine; }
 };
 
 constexpr std::array<Field, 5> fields{{
-    {sign::personOutline, {"Name", "姓名"}, {"Mei Lin", "林小梅"}, false},
-    {sign::business, {"Company", "公司"}, {"Studio North", "北方工作室"}, false},
-    {sign::call, {"Mobile", "手机"}, {"138 0000 8820", "138 0000 8820"}, true},
-    {sign::mailOutline, {"Email", "电子邮件"}, {}, false},
-    {sign::locationOn, {"Address", "地址"}, {}, false},
+    {sign::personOutline, {"Name", "姓名"}, {"Mei Lin", "林小梅"}, plainLine},
+    {sign::business, {"Company", "公司"}, {"Studio North", "北方工作室"}, plainLine},
+    {sign::call, {"Mobile", "手机"}, {"138 0000 8820", "138 0000 8820"}, activeLine},
+    {sign::mailOutline, {"Email", "电子邮件"}, {}, plainLine},
+    {sign::locationOn, {"Address", "地址"}, {}, longLine},
 }};
 
 constexpr int fieldLeft = 180;
 constexpr int fieldWidth = 840;
 
 /// The line below a field, which is a picture of the theme: of the contacts or, in generation 9, of all applications.
-void addFieldLine(ScreenBuilder& screen, int bottom, bool active) {
+void addFieldLine(ScreenBuilder& screen, int bottom, const Field& field) {
     const Place place{fieldLeft, bottom - 96, fieldWidth, 96};
     screen.leaveOut(typeMask::generation9);
-    screen.picture(active ? "contacts/textfield_activated_holo_light.9.png"
-                          : "contacts/contact_textfield_default_holo_light.9.png",
-                   place);
+    screen.picture(field.line, place);
     screen.leaveOut(typeMask::generation5 | typeMask::generation8);
-    screen.picture(active ? "commonSetting/textfield_default_linear_actived_ovui.9.png"
-                          : "commonSetting/textfield_default_linear_ovui.9.png",
+    screen.picture(field.isActive() ? "commonSetting/textfield_default_linear_actived_ovui.9.png"
+                                    : "commonSetting/textfield_default_linear_ovui.9.png",
                    place);
     screen.leaveOut(0);
 }
@@ -113,14 +128,14 @@ void addFieldLine(ScreenBuilder& screen, int bottom, bool active) {
 void addField(ScreenBuilder& screen, int number, int top, const Field& field) {
     const std::string name = "field" + std::to_string(number);
     const int middle = top + 108;
-    screen.icon(name + "_sign", {96, middle}, 66, field.sign, field.active ? accent : softText);
-    addFieldLine(screen, top + 162, field.active);
+    screen.icon(name + "_sign", {96, middle}, 66, field.sign, field.isActive() ? accent : softText);
+    addFieldLine(screen, top + 162, field);
     if (field.value.english.empty()) {
         screen.text(name + "_label", {fieldLeft, middle, 600}, field.label, textStyle::listLine, softText);
         return;
     }
     screen.text(name + "_label", {fieldLeft, top + 42, 600}, field.label, textStyle::caption,
-                field.active ? accent : softText);
+                field.isActive() ? accent : softText);
     screen.text(name + "_value", {fieldLeft, middle, 600}, field.value, textStyle::listLine, text);
 }
 
@@ -139,7 +154,7 @@ void addFields(ScreenBuilder& screen) {
     int number = 1;
     for (const Field& field : fields) {
         addField(screen, number++, top, field);
-        if (field.active) {
+        if (field.isActive()) {
             const int middle = top + 108;
             screen.fill({fieldLeft + 357, middle - 33, 6, 66}, accent);
             screen.text("number_kind", {fieldLeft + fieldWidth - 240, middle, 174}, {"Mobile", "手机"},
@@ -171,8 +186,7 @@ void addBox(ScreenBuilder& screen, const std::string& name, const Place& place, 
 Screen contactDetailsScreen() {
     ScreenBuilder screen("contacts", "contact details");
     screen.fill({0, 0, phoneWidth, phoneHeight}, background);
-    screen.picture("contacts/contact_detail_list_background.9.png",
-                   {0, coverHeight, phoneWidth, bottomBarTop - coverHeight});
+    addGround(screen);
     addHead(screen);
     addDetails(screen);
     addToolbar(screen);
@@ -191,10 +205,9 @@ Screen newContactScreen() {
     addBox(screen, "photo_back", around({540, 429}, 234), 117);
     screen.icon("photo_sign", {540, 429}, 96, sign::addAPhoto, softText);
     addBox(screen, "account", {300, 585, 480, 84}, 42);
-    screen.icon("account_sign", {360, 627}, 51, sign::phoneAndroid, boxText);
-    screen.text("account_name", {399, 627, 282}, {"Save to phone", "保存到手机"}, {36, 500, TextAlign::centre},
-                boxText);
-    screen.icon("account_more", {726, 627}, 51, sign::expandMore, boxText);
+    screen.icon("account_sign", {360, 627}, 51, sign::phoneAndroid, text);
+    screen.text("account_name", {399, 627, 282}, {"Save to phone", "保存到手机"}, {36, 500, TextAlign::centre}, text);
+    screen.icon("account_more", {726, 627}, 51, sign::expandMore, text);
     addFields(screen);
     screen.icon("more_sign", {96, 1734}, 66, sign::addCircleOutline, accent);
     screen.text("more_label", {fieldLeft, 1734, 600}, {"Add another field", "添加更多项"}, textStyle::listLine, accent);

@@ -194,13 +194,26 @@ void addLetters(ScreenBuilder& screen, int top) {
     }
 }
 
-/// What the address book proposes, in a box with its own colour of text.
+/// The families of the chosen letter, in a box beside it.
+void addFamilies(ScreenBuilder& screen, const Place& place) {
+    constexpr std::array<Words, 3> families{{{"Ad", "安"}, {"Ah", "艾"}, {"An", "敖"}}};
+    screen.picture("contacts/fastscroll_familyname_normal.9.png", place);
+    const int pitch = (place.height - 48) / static_cast<int>(families.size());
+    int middle = place.y + 24 + pitch / 2;
+    for (const Words& family : families) {
+        screen.text("family" + std::to_string(middle), {place.x + 12, middle, place.width - 24}, family,
+                    {45, 500, TextAlign::centre}, boxText);
+        middle += pitch;
+    }
+}
+
+/// What the address book proposes.
 void addTip(ScreenBuilder& screen, int top) {
     const int middle = top + 84;
     addBox(screen, "tip", {48, top, 984, 168}, 48);
-    screen.icon("tip_sign", {126, middle}, 72, sign::groupAdd, boxText);
-    screen.lines("tip", {192, middle, 560}, {"3 duplicate contacts", "发现 3 个重复联系人"}, boxText,
-                 {"Merge each into one", "合并后更易查找"}, boxText.faded(150));
+    screen.icon("tip_sign", {126, middle}, 72, sign::groupAdd, text);
+    screen.lines("tip", {192, middle, 560}, {"3 duplicate contacts", "发现 3 个重复联系人"}, text,
+                 {"Merge each into one", "合并后更易查找"}, softText);
     screen.text("tip_action", {768, middle, 216}, {"Merge", "合并"}, {45, 500, TextAlign::right}, accent);
 }
 
@@ -217,6 +230,7 @@ Screen contactListScreen() {
     top = addSection(screen, top, "C", nextContacts);
     addSection(screen, top, "D", lastContacts);
     addLetters(screen, 738);
+    addFamilies(screen, {858, 834, 132, 348});
     screen.bottomBar({{sign::call, {"Phone", "电话"}},
                       {sign::person, {"Contacts", "联系人"}},
                       {sign::starBorder, {"Favourites", "收藏"}}},

@@ -11,7 +11,8 @@ constexpr Ink white{{}, screenColour::paper};
 constexpr Ink highlight{"launcher/launcher/highlight color", screenColour::accent};
 constexpr Ink appText{"launcher/folder/app text", screenColour::paper};
 constexpr Ink textShadow{"launcher/folder/text shadow", 0x66000000};
-constexpr Ink simpleText{"commonSetting/dialing settings/first level icon text", screenColour::ink};
+constexpr Ink tileText{"commonSetting/dialing settings/first level icon text", screenColour::ink};
+constexpr Ink onAnyGround{{}, 0xff808080}; ///< No text of the theme goes with the ground of the simple mode.
 constexpr Ink tile{"commonSetting/dialing settings/button box background", screenColour::box};
 
 constexpr std::string_view homeWallpaper = "home_wallpaper_0.jpg";
@@ -191,12 +192,13 @@ constexpr std::array<NamedApp, 6> simpleApps{{
 Screen simpleScreen() {
     ScreenBuilder screen("launcher", "simple mode", typeMask::generation5);
     screen.fill({0, 0, phoneWidth, phoneHeight}, {"launcher/simple mode/background color", screenColour::paper});
-    screen.statusBar(simpleText);
-    screen.text("clock", {60, 252, 560}, {"08:08", "08:08"}, {186, 500}, simpleText);
-    screen.text("date", {60, 399, 640}, {"Tuesday, 14 May", "5 月 14 日 星期二"}, {51, 400}, simpleText.faded(170));
-    screen.icon("weather", {951, 243}, 144, sign::wbSunny, {{}, 0xfff5a623});
-    screen.text("degrees", {660, 399, 360}, {"Fine, 24 °C", "晴 24 °C"}, {51, 400, TextAlign::right},
-                simpleText.faded(170));
+    screen.statusBar(onAnyGround);
+    screen.card("time_tile", {60, 138, 960, 330}, 60, tile);
+    screen.text("clock", {108, 261, 560}, {"08:08", "08:08"}, {186, 500}, tileText);
+    screen.text("date", {108, 402, 520}, {"Tuesday, 14 May", "5 月 14 日 星期二"}, {51, 400}, tileText.faded(170));
+    screen.icon("weather", {903, 261}, 144, sign::wbSunny, {{}, 0xfff5a623});
+    screen.text("degrees", {624, 402, 348}, {"Fine, 24 °C", "晴 24 °C"}, {51, 400, TextAlign::right},
+                tileText.faded(170));
     constexpr int width = 456;
     constexpr int height = 432;
     constexpr int gap = 48;
@@ -208,10 +210,10 @@ Screen simpleScreen() {
         screen.card(name + "_tile", {left, top, width, height}, 60, tile);
         screen.appIcon({left + width / 2, top + 177}, 228, app.icon);
         screen.text(name + "_name", {left + 24, top + 360, width - 48}, app.name, {60, 500, TextAlign::centre},
-                    simpleText);
+                    tileText);
     }
-    addPageDots(screen, 1998, 3, 1, simpleText);
-    screen.homeLine(simpleText.faded(150));
+    addPageDots(screen, 1998, 3, 1, onAnyGround);
+    screen.homeLine(onAnyGround);
     return screen.take();
 }
 

@@ -200,6 +200,24 @@ constexpr BubbleStyle bubbleStyles[] = {
     {{"Slim", "紧凑"}, 36, 12, corner::all},
 };
 
+/// A small message in a style.
+void bubbleSample(ScreenBuilder& b, const std::string& name, const Place& place, const BubbleStyle& style) {
+    b.panel(name + "_bubble", place, style.radius, received, style.corners);
+    b.ring(name + "_edge", place, style.radius, 4, popUpText).drawing.corners = style.corners;
+    b.text(name + "_sample", {place.x + 6, place.y + place.height / 2, place.width - 12}, {"Abc", "文字"},
+           {style.height / 2, 500, TextAlign::centre}, popUpText);
+}
+
+/// What stands on the theme's own picture of a menu follows the menus' item; since generation 9 it stands on a colour.
+void menuLabel(ScreenBuilder& b, const std::string& name, const Line& at, const Words& words, bool chosen) {
+    const TextStyle style{48, chosen ? 500 : 400};
+    b.leaveOut(before9);
+    b.text(name + "_old", at, words, style, popUpText);
+    b.leaveOut(only9);
+    b.text(name, at, words, style, first);
+    b.leaveOut(0);
+}
+
 /// The menu of the bubbles' styles, with the chosen one ticked.
 void bubbleMenu(ScreenBuilder& b, const Place& place) {
     b.leaveOut(before9);
@@ -217,10 +235,8 @@ void bubbleMenu(ScreenBuilder& b, const Place& place) {
     for (const BubbleStyle& sample : bubbleStyles) {
         const std::string name = "menu_item" + std::to_string(middle);
         const bool chosen = &sample == bubbleStyles;
-        b.ring(name + "_bubble", {place.x + 48, middle - sample.height / 2, 78, sample.height}, sample.radius, 5,
-               popUpText)
-            .drawing.corners = sample.corners;
-        b.text(name, {place.x + 162, middle, 250}, sample.name, {48, chosen ? 500 : 400}, popUpText);
+        bubbleSample(b, name, {place.x + 48, middle - sample.height / 2, 84, sample.height}, sample);
+        menuLabel(b, name, {place.x + 168, middle, 250}, sample.name, chosen);
         if (chosen)
             b.icon("menu_tick", {place.x + place.width - 72, middle}, 60, sign::check, accent);
         middle += pitch;

@@ -47,22 +47,30 @@ void receivedLine(ScreenBuilder& b, const std::string& name, const Line& at, con
     b.leaveOut(0);
 }
 
-void voiceMessage(ScreenBuilder& b) {
-    constexpr Place place{168, 1146, 456, 126};
-    constexpr int middle = place.y + place.height / 2;
-    b.leaveOut(before9);
-    b.picture("mms/v_bg_1.9.png", place);
-    b.leaveOut(only9);
-    b.picture("mms/v_bg_3.9.png", place);
-    b.leaveOut(0);
-    b.icon("voice_play", {place.x + 84, middle}, 66, sign::playArrow, first);
-    constexpr int heights[] = {18, 36, 54, 30, 60, 42, 24, 48, 30, 18};
+/// A recording that can be played: its sign, its sound and its length.
+void recording(ScreenBuilder& b, const std::string& name, const Place& place, const Words& length, const Ink& ink) {
+    const int middle = place.y + place.height / 2;
+    b.icon(name + "_play", {place.x + 84, middle}, 66, sign::playArrow, ink);
     int x = place.x + 144;
-    for (const int height : heights) {
-        b.panel("voice_bar" + std::to_string(x), {x, middle - height / 2, 6, height}, 3, first);
+    for (const int height : {18, 36, 54, 30, 60, 42, 24, 48, 30, 18}) {
+        b.panel(name + "_bar" + std::to_string(x), {x, middle - height / 2, 6, height}, 3, ink);
         x += 18;
     }
-    b.text("voice_length", {place.x + 330, middle, 96}, {"0:12", "0:12"}, note, first);
+    b.text(name + "_length", {place.x + 330, middle, 96}, length, note, ink);
+}
+
+void voiceMessages(ScreenBuilder& b) {
+    constexpr Place heard{156, 1014, 468, 120};
+    constexpr Place spoken{564, 1158, 468, 120};
+    b.leaveOut(before9);
+    b.picture("mms/v_bg_1.9.png", heard);
+    recording(b, "old_voice", heard, {"0:12", "0:12"}, first);
+    b.leaveOut(only9);
+    b.picture("mms/v_bg_3.9.png", heard);
+    recording(b, "voice", heard, {"0:12", "0:12"}, receivedText);
+    b.leaveOut(0);
+    b.picture("mms/v_bg_4.9.png", spoken);
+    recording(b, "own_voice", spoken, {"0:05", "0:05"}, sentText);
 }
 
 void writtenMessages(ScreenBuilder& b) {
@@ -74,10 +82,10 @@ void writtenMessages(ScreenBuilder& b) {
     b.text("told_text1", {414, 582, 564}, {"Just left. All the fields are", "刚刚出发，"}, messageText, sentText);
     b.text("told_text2", {414, 648, 564}, {"yellow now, look at this", "路边的田野全黄了，你看"}, messageText,
            sentText);
-    b.photo("view", {540, 732, 480, 330}, 36, 1);
-    b.text("view_state", {720, 1098, 300}, {"Delivered 17:24", "17:24 已送达"}, noteRight, second);
-    b.portrait("face2", {99, 1209}, 96, 4);
-    voiceMessage(b);
+    b.photo("view", {540, 732, 480, 216}, 36, 1);
+    b.text("view_state", {720, 981, 300}, {"Delivered 17:24", "17:24 已送达"}, noteRight, second);
+    b.portrait("face2", {99, 1074}, 96, 4);
+    voiceMessages(b);
 }
 
 /// What glows behind the sign of recording, as far as the generation has pictures for it.
@@ -146,25 +154,6 @@ void gallery(ScreenBuilder& b, int top) {
     b.roundButton("photo_mark", mark, 60, sign::check, accent, chosenTab);
     b.leaveOut(0);
 }
-
-} // namespace
-
-Screen conversationScreen() {
-    ScreenBuilder b("mms", "MMS");
-    threadPage(b);
-    b.statusBar(first);
-    b.subTitleBar({"Mei Lin", "林小梅"}, first, {sign::call, sign::moreVert});
-    writtenMessages(b);
-    inputBar(b);
-    b.fill({0, 1452, phoneWidth, phoneHeight - 1452}, page);
-    b.divider(1452, line, 0, phoneWidth);
-    attachmentTabs(b, 1464);
-    gallery(b, 1632);
-    b.homeLine(first.faded(150));
-    return b.take();
-}
-
-namespace {
 
 /// The card's ground: the theme's picture, or since generation 9 a colour.
 void cardGround(ScreenBuilder& b, const std::string& name, const Place& place, std::string_view picture) {
@@ -270,12 +259,27 @@ void serviceBar(ScreenBuilder& b) {
 void openMenu(ScreenBuilder& b) {
     constexpr Place place{162, 1596, 390, 306};
     b.picture("mms/duoqu_menu_bg.9.png", place);
-    b.text("menu_item1", {place.x + 48, place.y + 84, 336}, {"Next journey", "下一行程"}, {45}, first);
+    b.text("menu_item1", {place.x + 48, place.y + 84, 336}, {"Next journey", "下一行程"}, {45}, popUpText);
     b.divider(place.y + 150, line, place.x + 36, place.x + place.width - 36);
-    b.text("menu_item2", {place.x + 48, place.y + 216, 336}, {"Past journeys", "历史行程"}, {45}, first);
+    b.text("menu_item2", {place.x + 48, place.y + 216, 336}, {"Past journeys", "历史行程"}, {45}, popUpText);
 }
 
 } // namespace
+
+Screen conversationScreen() {
+    ScreenBuilder b("mms", "MMS");
+    threadPage(b);
+    b.statusBar(first);
+    b.subTitleBar({"Mei Lin", "林小梅"}, first, {sign::call, sign::moreVert});
+    writtenMessages(b);
+    inputBar(b);
+    b.fill({0, 1452, phoneWidth, phoneHeight - 1452}, page);
+    b.divider(1452, line, 0, phoneWidth);
+    attachmentTabs(b, 1464);
+    gallery(b, 1632);
+    b.homeLine(first.faded(150));
+    return b.take();
+}
 
 Screen smartMessageScreen() {
     ScreenBuilder b("mms", "smart message");
@@ -291,4 +295,5 @@ Screen smartMessageScreen() {
     b.homeLine(first.faded(150));
     return b.take();
 }
+
 } // namespace zdt::mms

@@ -19,12 +19,6 @@ std::vector<Screen> makeScreens() {
     return all;
 }
 
-std::string folderName(std::string_view name) {
-    std::string folder(name);
-    std::replace(folder.begin(), folder.end(), ' ', '_');
-    return folder;
-}
-
 } // namespace
 
 std::span<const Screen> allScreens() {
@@ -53,8 +47,8 @@ std::pair<KeyPath, std::string> pictureLeaf(std::string_view key) {
 }
 
 std::string layerFile(const Screen& screen, const ScreenLayer& layer, bool chinese) {
-    return std::string("simplepic/") + (chinese ? "cn/" : "en/") + folderName(screen.module) + "/" +
-           folderName(screen.name) + "/" + layer.name + ".png";
+    std::string file = chinese ? "simplepic/cn/" : "simplepic/en/";
+    return file.append(screen.module).append("/").append(screen.name).append("/").append(layer.name).append(".png");
 }
 
 } // namespace zdt

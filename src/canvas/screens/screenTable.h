@@ -20,8 +20,7 @@ namespace zdt {
 /// Where the theme's tree has the picture or wallpaper that a layer's key names: the block, and the name in it.
 [[nodiscard]] std::pair<KeyPath, std::string> pictureLeaf(std::string_view key);
 
-/// Where the picture of a layer lies in the skin's folder: "simplepic/en/contacts/dial/title.png". Blanks in the names
-/// of module and screen become "_".
+/// Where the picture of a layer lies in the skin's folder: "simplepic/en/contacts/contact list/title.png".
 [[nodiscard]] std::string layerFile(const Screen& screen, const ScreenLayer& layer, bool chinese);
 
 } // namespace zdt

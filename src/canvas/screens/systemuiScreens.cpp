@@ -183,8 +183,8 @@ Screen switchSortScreen() {
            {sign::batterySaver, {"Save power", "省电模式"}}});
     badges(b, "used_badge", top, pitch, 10, sign::remove, plain);
     b.ring("gap", around({tileLeft + 2 * tilePitch, top + 2 * pitch}, 150), 75, 4, accent.faded(150));
-    b.fill({0, 1128, phoneWidth, 114}, separator);
-    b.text("band", {screenMargin, 1185, 960},
+    b.fill({0, 1128, phoneWidth, 18}, separator);
+    b.text("band", {screenMargin, 1203, 960},
            {"Not shown: drag here what you don't need", "未显示：将不需要的开关拖到这里"}, {40}, plain);
     tiles(b, "rest", restTop, pitch,
           {{sign::wifiTethering, {"Hotspot", "个人热点"}},
