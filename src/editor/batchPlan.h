@@ -62,8 +62,8 @@ struct BatchFile {
     [[nodiscard]] bool isFit() const { return isClaimed() && state == BatchState::fine; }
 };
 
-/// The files that were given, with those of folders in the place of the folder: of these alone the pictures, in the order
-/// of their names.
+/// The files that were given, with those of folders in the place of the folder: of these alone the pictures, in the
+/// order of their names.
 [[nodiscard]] std::vector<std::string> expandFiles(const std::vector<std::string>& given);
 
 /// Leaves as many files as a batch takes, and gives how many are too many.
@@ -95,7 +95,7 @@ struct BatchResult {
     std::vector<BatchRefusal> refused;
     int typeMismatches = 0;
     std::size_t leftOut = 0; ///< Files beyond what a batch takes, which weren't looked at.
-    bool cancelled = false; ///< What wasn't looked at then stands in neither list.
+    bool cancelled = false;  ///< What wasn't looked at then stands in neither list.
 
     [[nodiscard]] std::size_t readCount() const { return matched.size() + refused.size(); }
 };

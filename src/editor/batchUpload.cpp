@@ -54,8 +54,7 @@ BatchUpload::~BatchUpload() = default;
 
 void BatchUpload::askFiles() {
     const std::uint64_t theme = _bench.themeSerial();
-    const QStringList files =
-        pictureChoice.files(_page.window(), Text("kBatch_choose"), pictureFilter(false));
+    const QStringList files = pictureChoice.files(_page.window(), Text("kBatch_choose"), pictureFilter(false));
     if (theme == _bench.themeSerial())
         start(files);
 }

@@ -87,6 +87,8 @@ CColorAndPictureManagerPage::CColorAndPictureManagerPage(Workbench& bench, std::
         this->bench().notifications().SendNotify(_stripView.cellAt(index), notify::click);
     });
     _batch = std::make_unique<BatchUpload>(bench, _module, *this);
+    // A page that is made late forgets nothing on its first reload.
+    _theme = bench.themeSerial();
     connectBar();
     connectBatch();
 }

@@ -60,7 +60,8 @@ ScreenPictures* CColorAndPictureManagerPage::makePictures(const Screen& screen, 
             uploadPictureFile(entry, files.value(0));
         });
         connect(each, &PictureSet::batchDropped, _batch.get(), &BatchUpload::start);
-        connect(each, &PictureSet::hovered, this, [this, each] { bench().notifications().SendNotify(each, notify::Notify_Pic_Hint); });
+        connect(each, &PictureSet::hovered, this,
+                [this, each] { bench().notifications().SendNotify(each, notify::Notify_Pic_Hint); });
         connect(each, &PictureSet::chosen, this, &CColorAndPictureManagerPage::pulsePicture);
         connect(each, &PictureSet::unhovered, this,
                 [this, each] { bench().notifications().SendNotify(each, notify::Notify_Pic_Hint_Reset); });
@@ -132,8 +133,8 @@ void CColorAndPictureManagerPage::resetEntry(PictureEntry entry) {
 }
 
 void CColorAndPictureManagerPage::savePicture(const PictureEntry& entry) {
-    const QString path =
-        pictureChoice.save(window(), Text("kPicture_save"), pictureFilter(entry.isNinePatch()), QString::fromStdString(entry.name));
+    const QString path = pictureChoice.save(window(), Text("kPicture_save"), pictureFilter(entry.isNinePatch()),
+                                            QString::fromStdString(entry.name));
     if (path.isEmpty())
         return;
     const PictureRefusal refusal = savePictureAs(entry, path.toStdString());

@@ -122,7 +122,8 @@ void CPictureItem::makeControls() {
     _path->setProperty("kind", "path");
     _path->setReadOnly(true);
     _path->setFrame(false);
-    _path->setTextMargins({});
+    // A line edit begins so much beside its edge.
+    _path->setTextMargins(-2, 0, 0, 0);
     _path->setFixedHeight(pathHeight);
     // What is dropped on it is for the row.
     _path->setAcceptDrops(false);

@@ -80,6 +80,13 @@ TEST_F(PictureUploadTest, RefusalsNameTheirReasonAndChangeNothing) {
     }
 }
 
+TEST_F(PictureUploadTest, WrongSizeIsSaidWithBothSizes) {
+    openNew();
+    PictureEntry entry = entryOf(*bench.theme(), "launcher", "ic_allapps.png");
+    const PictureRefusal refusal = upload(entry, given.write("mine.png", plainPng(192, 191)));
+    EXPECT_EQ(refusal.arguments, (QStringList{"192*191", "192*192"}));
+}
+
 TEST_F(PictureUploadTest, NinePatchesAreCompiledOnTheWay) {
     openNew();
     PictureEntry entry = entryOf(*bench.theme(), "launcher", "folder_open_shadow.9.png");
