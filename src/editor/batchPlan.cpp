@@ -5,8 +5,11 @@
 #include "editor/sizeHint.h"
 #include "model/returnCode.h"
 #include "packaging/pictureCheck.h"
+#include "packaging/pictureConversion.h"
 #include "support/files.h"
 #include "support/text.h"
+
+#include <QImage>
 
 #include <algorithm>
 #include <charconv>
@@ -78,7 +81,11 @@ BatchState contentState(BatchFile& file) {
     const SizeRule rule = parseSizeHint(file.sizeHint.toStdString());
     const bool fits = file.size.width <= INT32_MAX && file.size.height <= INT32_MAX &&
                       rule.allows(static_cast<int>(file.size.width), static_cast<int>(file.size.height));
-    return fits ? BatchState::fine : BatchState::wrongSize;
+    if (!fits)
+        return BatchState::wrongSize;
+    // Its head may be sound, and the rest cut. A nine-patch is read by its compiler.
+    const bool isWhole = file.name.ends_with(".9.png") || !loadPicture(file.path).isNull();
+    return isWhole ? BatchState::fine : BatchState::unreadable;
 }
 
 /// Finds the row of a file and tests what its name and its presence tell.

@@ -205,6 +205,9 @@ FileRefusal replacePicture(ThemeResource& theme, const KeyRow& row, const std::s
         return {check.message.empty() ? returnCode::missingFile : 0, check.message};
     if (isNinePatch(file) && !isNinePatch(row.name()))
         return {0, plainWanted};
+    // Its head may be sound, and the rest cut.
+    if (check.width > 0 && loadPicture(file).isNull())
+        return {0, "kPicture_damaged"};
     if (row.kinds != fileKind::jpeg || fileKindOf(file) != fileKind::png)
         return {changeKey(theme, row, file), {}};
     if (!fits(row, check))

@@ -8,9 +8,12 @@
 #include "kit/localisation.h"
 #include "model/returnCode.h"
 #include "packaging/pictureCheck.h"
+#include "packaging/pictureConversion.h"
 #include "packaging/uploadMessages.h"
 #include "store/themeResource.h"
 #include "support/files.h"
+
+#include <QImage>
 
 #include <algorithm>
 #include <filesystem>
@@ -26,6 +29,7 @@ constexpr const char* plainWanted = "kWarn_replace_right_format_picture";
 constexpr const char* ninePatchWanted = "kWarn_replace_nine_patch_picture";
 constexpr const char* wrongSize = "kWarn_replace_right_size_picture";
 constexpr const char* cannotStore = "kWarn_upload_systemui_pic";
+constexpr const char* damaged = "kPicture_damaged";
 constexpr const char* unreadable = "kBatch_reason_41";
 constexpr const char* toolMissing = "kBatch_reason_40";
 
@@ -53,6 +57,9 @@ PictureRefusal refusalOf(const PictureEntry& entry, const std::string& path) {
     const bool isRead = check.width > 0 && check.height > 0;
     if (isRead && !rule.allows(check.width, check.height))
         return {wrongSize, {QString("%1*%2").arg(check.width).arg(check.height), entry.sizeHint}};
+    // Its head may be sound, and the rest cut. A nine-patch is read by its compiler.
+    if (isRead && !isNinePatch && loadPicture(path).isNull())
+        return {damaged, {}};
     return {};
 }
 

@@ -121,9 +121,13 @@ TEST_F(ScreenPicturesTest, WhatIsNotStoredLeavesRowAndPreview) {
     const BoxAnswers answers(stack);
     uploadFile(given.write("mine.9.png", rawNinePatch()));
     EXPECT_EQ(answers.said(), QStringList{Text("kWarn_replace_right_format_picture")});
+    const std::string whole = readFile(good());
+    uploadFile(given.write("cut.png", whole.substr(0, whole.size() / 2)));
+    ASSERT_EQ(answers.said().size(), 2);
+    EXPECT_EQ(answers.said()[1], Text("kPicture_damaged"));
     uploadFile(given.path("gone.png"));
     uploadFile(given.path()); // A folder.
-    EXPECT_EQ(answers.said().size(), 1);
+    EXPECT_EQ(answers.said().size(), 2);
     EXPECT_EQ(stored(), before);
     EXPECT_EQ(edits, 0);
     EXPECT_FALSE(inRow<QLineEdit>("picturePath").isVisible());
