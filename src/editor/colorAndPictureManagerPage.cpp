@@ -3,7 +3,6 @@
 #include "canvas/drawPictrue.h"
 #include "canvas/phoneView.h"
 #include "canvas/previewComposition.h"
-#include "canvas/screens/screenTable.h"
 #include "editor/batchUpload.h"
 #include "editor/colorAndPictureSetPage.h"
 #include "editor/colorItem.h"
@@ -22,7 +21,6 @@
 #include "kit/tokens.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
@@ -31,7 +29,8 @@
 
 #include <algorithm>
 
-/// The page and what it shows; what its controls do stands in colorAndPictureManagerPageChanges.cpp.
+/// The page and what it shows. What is pointed at, what its controls do and what is done with pictures stands in files
+/// of their own.
 namespace zdt {
 
 namespace {
@@ -39,7 +38,6 @@ namespace {
 constexpr int hintIcon = 16;
 constexpr int stripEnd = 16;
 constexpr int stripSide = 8;
-constexpr int legendGap = 16;
 /// The narrowest bar that has room for all its words.
 constexpr int wideBar = 620;
 /// Milliseconds.
@@ -316,127 +314,6 @@ void CColorAndPictureManagerPage::resizeEvent(QResizeEvent* event) {
     fitBar();
     makeRoomForLegend();
     placeLegend();
-}
-
-void CColorAndPictureManagerPage::placeLegend() {
-    const QRect phone = _phone->phonePlace();
-    _legend->move(phone.right() + 1 + legendGap, phone.top());
-    _legend->setVisible(!_pointedKey.empty() && _legend->geometry().right() < _legend->parentWidget()->width());
-}
-
-void CColorAndPictureManagerPage::makeRoomForLegend() {
-    QLayout& place = *_phone->parentWidget()->layout();
-    const int wide = _phone->parentWidget()->width();
-    const int phone = _phone->phonePlace().width();
-    const int legend = ScreenLegend::cardWidth + 2 * legendGap;
-    // The phone stands in the middle, unless it must give way; a narrow window has no room for both.
-    const int missing = 2 * legend + phone - wide;
-    place.setContentsMargins(0, 0, phone + legend <= wide ? std::max(0, missing) : 0, 0);
-    place.activate();
-}
-
-void CColorAndPictureManagerPage::sayHint(const QString& text) {
-    const QStringList hints{Text("kTransformation_lock_preview_or_select_area"), Text("key_simple_preview_second"),
-                            Text("key_simple_preview_third")};
-    _hint.setText(text.isEmpty() ? hints.join(" · ") : text);
-}
-
-QString CColorAndPictureManagerPage::wordsOfKey(const std::string& key) const {
-    if (const std::optional<ItemPath> path = itemPathOf(key))
-        return colourWords({*path, true, path->module != _module, {}});
-    const QString file = shown(key.substr(key.find('/') + 1));
-    const QString word = Text(file + "_context");
-    return word.isEmpty() ? file : word;
-}
-
-void CColorAndPictureManagerPage::pointAt(const std::string& key) {
-    if (!hasScreen() || !view().composition || key.empty())
-        return;
-    _pointedKey = key;
-    const std::vector<std::size_t> parts = view().composition->partsOf(key);
-    _phone->picture().setOutlined(parts);
-    const int count = static_cast<int>(parts.size());
-    const QString places = count == 1   ? Text("kScreens_place")
-                           : count == 0 ? Text("kScreens_no_place")
-                                        : TextWith("kScreens_places", count);
-    const QString name = wordsOfKey(key);
-    _legend->setContent(name, places);
-    placeLegend();
-    if (!_legend->isVisible())
-        sayHint(name + ": " + places);
-}
-
-void CColorAndPictureManagerPage::pointAtNothing() {
-    if (_pointedKey.empty())
-        return;
-    _pointedKey.clear();
-    _phone->picture().setOutlined({});
-    _legend->hide();
-    sayHint({});
-}
-
-void CColorAndPictureManagerPage::setInspecting(bool on) {
-    _phone->picture().setInspecting(on);
-    if (!on)
-        pointAtNothing();
-}
-
-bool CColorAndPictureManagerPage::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::WindowDeactivate)
-        inspectByKey(false);
-    else if (event->type() == QEvent::KeyPress)
-        inspectByKey(static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt);
-    else if (event->type() == QEvent::KeyRelease && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt)
-        inspectByKey(false);
-    return ZPage::eventFilter(watched, event);
-}
-
-void CColorAndPictureManagerPage::inspectByKey(bool on) {
-    if (_isInspectingByKey == on)
-        return;
-    _isInspectingByKey = on;
-    setInspecting(on || _outlines.isChecked());
-}
-
-bool CColorAndPictureManagerPage::showKey(const std::string& key) {
-    if (!theme())
-        return false;
-    if (_views.empty())
-        rebuild();
-    std::vector<int> order;
-    if (hasScreen())
-        order.push_back(_screen);
-    for (int index = 0; index < screenCount(); ++index)
-        order.push_back(index);
-    for (const int index : order) {
-        fillSet(index);
-        CColorAndPictureSetPage& set = setPage(index);
-        CColorItem* item = set.colours().itemOf(key);
-        const bool isPicture = !item && set.pictures()->has(key);
-        if (!item && !isPicture)
-            continue;
-        if (index != _screen)
-            showScreen(index);
-        if (isPicture) {
-            set.clearFilter();
-            set.selectTab(CColorAndPictureSetPage::pictureTab);
-            set.pictures()->showPicture(shown(key));
-            pulsePicture(shown(key));
-            return true;
-        }
-        set.selectTab(CColorAndPictureSetPage::colourTab);
-        set.colours().showItem(*item);
-        return true;
-    }
-    return false;
-}
-
-void CColorAndPictureManagerPage::pick(const std::string& key) {
-    if (showKey(key) || itemPathOf(key))
-        return;
-    auto [path, name] = pictureLeaf(key);
-    path.push_back(std::move(name));
-    emit keyRequested(shown(joinKeyPath(path)));
 }
 
 void CColorAndPictureManagerPage::focusSearch() {

@@ -55,6 +55,7 @@ ScreenPictures::ScreenPictures(const QString& module, const QString& screen, CPa
     column->addWidget(foot);
 
     setButtonIcon(_many, Icon::FileUpload);
+    _many->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     _hint->setProperty("type", "hint");
     _hint->setWordWrap(true);
     _how->setProperty("kind", "quiet");
@@ -118,7 +119,6 @@ void ScreenPictures::setGrid(bool isGrid) {
 
 void ScreenPictures::retell() {
     _many->setText(Text("kPictures_many"));
-    _many->setMinimumWidth(_many->sizeHint().width());
     _many->setToolTip(Text("kPictures_many_tip"));
     _hint->setText(Text("kPictures_many_hint"));
     _how->setToolTip(Text("kPictures_many_how"));
