@@ -1,5 +1,6 @@
 #include "editor/problemRows.h"
 
+#include "editor/batchPlan.h"
 #include "editor/moduleWords.h"
 #include "editor/problemReasons.h"
 #include "editor/problemRestore.h"
@@ -18,6 +19,8 @@ namespace zdt {
 namespace {
 
 ProblemSubject subjectOf(const Problem& problem, const ResNode* node) {
+    if (batchReasonNumber(problem.code) != 0)
+        return ProblemSubject::pictures;
     if ((fileKindOf(problem.path) & (fileKind::png | fileKind::jpeg)) != 0)
         return ProblemSubject::pictures;
     if (problem.path.starts_with("unlock/layout"))
@@ -43,7 +46,7 @@ ProblemRow rowOf(const ThemeResource* theme, const Problem& problem) {
     row.group = groupOf(problem.key);
     row.reason = reasonOf(theme, problem);
     row.detail = detailOf(problem);
-    if (theme && row.subject == ProblemSubject::pictures)
+    if (theme && row.subject == ProblemSubject::pictures && !problem.path.empty())
         row.picture = theme->tree().path() + problem.path;
     if (node && row.subject == ProblemSubject::colours)
         row.colour = node->value();

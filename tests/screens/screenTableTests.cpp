@@ -301,6 +301,11 @@ TEST(ScreenTable, EverySettingIsSeenOnItsOwnScreen) {
     const SkinnedStore store;
     for (const unsigned generation : {0U, 1U, 2U}) {
         const auto theme = store.create("items" + std::to_string(generation), {generation});
+        // A new theme's shadow is transparent, so that its switch alone shows nothing.
+        const KeyPath folder{"launcher", "folder"};
+        if (theme->simpleTakesPart(folder, "text shadow")) {
+            ASSERT_EQ(theme->changeSimpleValue(folder, "text shadow", "#ff000000"), 0);
+        }
         ShownScreens screens(*theme);
         forEachItem(*theme, [&](const ItemPath& path) {
             EXPECT_GT(screens.pixelsOf(path), clearly) << "generation " << generation << ": " << path.key();
