@@ -3,6 +3,7 @@
 #include <QRect>
 #include <QRgb>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -25,7 +26,11 @@ struct PreviewPart {
     std::string key;     ///< The colour or picture that it follows; empty for none.
 
     [[nodiscard]] QRgb colour() const { return preferAlternate ? colorAlternate : colorNormal; }
-    [[nodiscard]] QRect place() const { return {x, y, width, height}; }
+    [[nodiscard]] QRect place() const {
+        static constexpr int far = 1 << 20; // Beyond any screen, and no corner overflows.
+        const auto held = [](int value) { return std::clamp(value, -far, far); };
+        return {held(x), held(y), held(width), held(height)};
+    }
 };
 
 /// A rectangle over a composed preview.

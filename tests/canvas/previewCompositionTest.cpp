@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <random>
 
 namespace zdt::test {
@@ -184,6 +185,8 @@ TEST_F(PreviewCompositionTest, WhatCannotBeDrawnIsLeftOut) {
     const std::string shape = saved(folder, "shape.png", disc({200, 100}));
     const std::string broken = folder.write("broken.png", "text");
     const std::string odd = saved(folder, "odd.png", QImage(500, 500, QImage::Format_RGB32));
+    PreviewPart beyond = part({0, 0, 9, 9}, 0xff000000, "k");
+    beyond.x = beyond.width = std::numeric_limits<int>::max();
     const std::vector<std::pair<const char*, PreviewPart>> cases{
         {"nothing named", part({0, 0, 100, 100}, 0, "k")},
         {"shape beyond the right edge", part({900, 0, 0, 0}, 0xff000000, "k", shape)},
@@ -193,7 +196,7 @@ TEST_F(PreviewCompositionTest, WhatCannotBeDrawnIsLeftOut) {
         {"unreadable picture", part({0, 0, 10, 10}, 0, "k", broken)},
         {"missing picture", part({0, 0, 0, 0}, 0, "k", folder.path("none.png"))},
         {"width below zero", part({0, 0, -10, 10}, 0xff000000, "k")},
-        {"place that overflows", part({2147483647, 0, 2147483647, 9}, 0xff000000, "k")},
+        {"place that overflows", beyond},
     };
     QImage white(previewFrame.size(), QImage::Format_RGB32);
     white.fill(Qt::white);
