@@ -51,8 +51,5 @@ int run(TimedApplication& application) {
 } // namespace zdt
 
 int main(int argc, char* argv[]) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    zdt::TimedApplication application(argc, argv);
-    return zdt::run(application);
+    return zdt::runTimed(argc, argv, zdt::run);
 }

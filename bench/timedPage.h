@@ -90,4 +90,12 @@ inline void press(QWidget& field, int key, const QString& text) {
     settle();
 }
 
+/// The `main` of a benchmark, on a screen in memory.
+inline int runTimed(int argc, char* argv[], int (*run)(TimedApplication&)) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    TimedApplication application(argc, argv);
+    return run(application);
+}
+
 } // namespace zdt

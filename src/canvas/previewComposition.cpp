@@ -118,14 +118,6 @@ void PreviewComposition::setColour(std::string_view key, QRgb colour) {
     }
 }
 
-void PreviewComposition::setAlternateColour(std::string_view key, QRgb colour) {
-    for (const std::size_t part : partsOf(key)) {
-        const QRgb before = std::exchange(_description.parts[part].colorAlternate, shownColour(colour));
-        if (before != shownColour(colour) && _description.parts[part].preferAlternate)
-            recolour(part);
-    }
-}
-
 void PreviewComposition::setPreferAlternate(std::string_view key, bool prefer) {
     for (const std::size_t part : partsOf(key)) {
         if (std::exchange(_description.parts[part].preferAlternate, prefer) != prefer)

@@ -46,8 +46,6 @@ public:
     /// Gives all parts of a key a colour, and takes transparent black, which would be none, for another transparent
     /// one.
     void setColour(std::string_view key, QRgb colour);
-    /// The same for the colour where the key takes no part in the theme.
-    void setAlternateColour(std::string_view key, QRgb colour);
     void setPreferAlternate(std::string_view key, bool prefer);
     /// Gives all parts of a key a picture, which is read again even if the path is the same.
     void setPicture(std::string_view key, const std::string& file);

@@ -5,15 +5,12 @@
 
 #include <QIcon>
 #include <QPainter>
-#include <QPixmap>
 #include <QPushButton>
 
 namespace zdt {
 
-void setChangedMark(QPushButton& button) {
-    constexpr int side = 10;
+QPixmap changedDot(int side, double ratio) {
     constexpr double radius = 3;
-    const double ratio = button.devicePixelRatioF();
     QPixmap picture(QSize(side, side) * ratio);
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
@@ -22,8 +19,12 @@ void setChangedMark(QPushButton& button) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(token::accent);
     painter.drawEllipse(QPointF(side / 2.0, side / 2.0), radius, radius);
-    painter.end();
-    button.setIcon(picture);
+    return picture;
+}
+
+void setChangedMark(QPushButton& button) {
+    constexpr int side = 10;
+    button.setIcon(changedDot(side, button.devicePixelRatioF()));
     button.setIconSize({side, side});
     setStyleProperty(&button, "withIcon", "text");
 }

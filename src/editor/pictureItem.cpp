@@ -1,5 +1,6 @@
 #include "editor/pictureItem.h"
 
+#include "editor/changedMark.h"
 #include "editor/pictureThumbnail.h"
 #include "editor/sizeHint.h"
 #include "kit/icons.h"
@@ -33,18 +34,6 @@ constexpr int signSide = 14;
 constexpr int pathHeight = 18;
 /// The least room at the right of a row beside a scroll bar.
 constexpr int leastPadding = 6;
-
-QPixmap dotPixmap(double ratio) {
-    QPixmap dot(QSize(dotSide, dotSide) * ratio);
-    dot.setDevicePixelRatio(ratio);
-    dot.fill(Qt::transparent);
-    QPainter painter(&dot);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(token::accent);
-    painter.drawEllipse(QRectF(0, 0, dotSide, dotSide));
-    return dot;
-}
 
 ZElidedLabel* elided(QWidget* parent, const char* name, const char* type) {
     auto* label = new ZElidedLabel(parent);
@@ -101,7 +90,7 @@ void CPictureItem::makeControls() {
     _name->setFixedHeight(nameHeight);
     _name->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     _name->setElideMode(Qt::ElideMiddle);
-    _dot->setPixmap(dotPixmap(devicePixelRatioF()));
+    _dot->setPixmap(changedDot(dotSide, devicePixelRatioF()));
     _dot->setFixedWidth(dotSide);
     _format->setObjectName("pictureFormat");
     _reset->setObjectName("pictureReset");

@@ -191,10 +191,12 @@ void CEditorPages::showKey(const QString& key) {
         emit descriptionRequested();
         return;
     }
-    if (hasScreens(module)) {
-        CColorAndPictureManagerPage* page = screensPage(module);
-        if (page && page->showKey(pageKeyOf(key.toStdString())))
-            return showModule(module);
+    const std::string pageKey = pageKeyOf(key.toStdString());
+    if (hasScreens(module) && pageKey != key.toStdString()) {
+        // Seen first: a page reads everything anew when it is shown.
+        showModule(module);
+        if (CColorAndPictureManagerPage* page = screensPage(module); page && page->showKey(pageKey))
+            return;
     }
     makeList();
     // Not all that can be wrong is a key: a whole file can't be read, or the lock screen's design lacks a picture.

@@ -27,6 +27,7 @@
 #include <QTest>
 #include <QUrl>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 
@@ -153,6 +154,22 @@ TEST_F(MainFrameTest, TheListAndItsNavigationAgree) {
     EXPECT_FALSE(find<QAbstractButton>("nav_all").isChecked());
     QTest::keyClick(&modules, Qt::Key_Home);
     EXPECT_TRUE(find<QAbstractButton>("nav_all").isChecked());
+}
+
+TEST_F(MainFrameTest, AWrongPictureIsFoundInItsRow) {
+    store.create("Aurora").reset();
+    window().openTheme("Aurora");
+    const std::vector<Problem> problems{{"contacts/image/jing.png", {}, -2}};
+    bench.notifications().SendNotify(nullptr, notify::Notify_Error_List_Msg, 0,
+                                     reinterpret_cast<std::intptr_t>(&problems));
+    auto& view = find<ZListView>("problemList");
+    view.setFocus();
+    QTest::keyClick(&view, Qt::Key_Home);
+    QTest::keyClick(&view, Qt::Key_Return);
+    const QList<ZListView*> lists = window().findChildren<ZListView*>("pictureList");
+    const auto seen = std::find_if(lists.begin(), lists.end(), [](const ZListView* list) { return list->isVisible(); });
+    ASSERT_NE(seen, lists.end());
+    EXPECT_GT((*seen)->current(), 0);
 }
 
 TEST_F(MainFrameTest, WhatAPageOfScreensChangesStandsInTheList) {
