@@ -1,5 +1,5 @@
-#include "assets/screenArt.h"
-#include "assets/screenWriter.h"
+#include "assets/screens/screenArt.h"
+#include "assets/screens/screenWriter.h"
 #include "canvas/previewComposition.h"
 #include "canvas/screens/screenTable.h"
 #include "editor/colourItems.h"
@@ -10,8 +10,6 @@
 #include "support/files.h"
 
 #include <gtest/gtest.h>
-
-#include <QGuiApplication>
 
 #include <algorithm>
 #include <chrono>
@@ -28,25 +26,6 @@
 namespace zdt::test {
 
 namespace {
-
-/// Fonts take an application.
-class Application : public testing::Environment {
-public:
-    void SetUp() override {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        _application = std::make_unique<QGuiApplication>(_count, _arguments);
-        ASSERT_TRUE(assets::missingFonts().isEmpty()) << qPrintable(assets::missingFonts());
-    }
-    void TearDown() override { _application.reset(); }
-
-private:
-    int _count = 1;
-    char _name[8] = "screens";
-    char* _arguments[2] = {_name, nullptr};
-    std::unique_ptr<QGuiApplication> _application;
-};
-
-const auto* const application = testing::AddGlobalTestEnvironment(new Application);
 
 template <typename Check>
 void forEachLayer(const Check& check) {

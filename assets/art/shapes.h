@@ -1,0 +1,35 @@
+#pragma once
+
+#include "assets/art/palette.h"
+
+#include <QPainter>
+
+/// What most pictures are made of.
+namespace zdt::assets {
+
+/// A rectangle with rounded corners, filled and, unless `edge` is clear, with a line of `edgeWidth` inside its border.
+inline void drawRounded(QPainter& painter, const QRectF& area, double radius, QRgb fill, QRgb edge = palette::clear,
+                        double edgeWidth = 0) {
+    // The line runs in its own middle; inset so, its outer side has the asked radius.
+    const double inset = qAlpha(edge) ? edgeWidth / 2 : 0;
+    painter.setBrush(palette::colour(fill));
+    painter.setPen(qAlpha(edge) ? QPen(palette::colour(edge), edgeWidth) : QPen(Qt::NoPen));
+    painter.drawRoundedRect(area.marginsRemoved({inset, inset, inset, inset}), radius - inset, radius - inset);
+    painter.setPen(Qt::NoPen);
+}
+
+inline void drawDisc(QPainter& painter, QPointF middle, double radius, QRgb fill) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette::colour(fill));
+    painter.drawEllipse(middle, radius, radius);
+}
+
+/// A card above a soft shadow, which lies inside `area` and takes `depth` pixels on each side.
+inline void drawRaised(QPainter& painter, const QRectF& area, double radius, double depth, QRgb fill) {
+    for (double inset = 0; inset < depth; ++inset)
+        drawRounded(painter, area.marginsRemoved({inset, inset, inset, inset}), radius + depth - inset,
+                    qRgba(0, 0, 0, 3));
+    drawRounded(painter, area.marginsRemoved({depth, depth, depth, depth}), radius, fill);
+}
+
+} // namespace zdt::assets
