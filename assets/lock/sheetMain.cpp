@@ -27,7 +27,10 @@ std::vector<Shot> shots() {
     music.hour = 11;
     music.minute = 47;
     music.calls = 3;
-    return {{LockScene()}, {charging}, {music}, {music, LockForm::slide}};
+    LockScene slide = music;
+    slide.ownerInfo = "Slide to unlock";
+    slide.messages = 1;
+    return {{LockScene()}, {charging}, {music}, {slide, LockForm::slide}};
 }
 
 /// The lock screens of a generation side by side.
