@@ -1,9 +1,10 @@
 #include "assets/previews/smallIcons.h"
 
-#include "assets/previews/phoneParts.h"
+#include <QPainter>
 
 #include <array>
-#include <cmath>
+#include <string>
+#include <vector>
 
 namespace zdt::assets {
 
@@ -27,6 +28,35 @@ QImage cutWallpaper(const PreviewSource& source, QSize size) {
         .convertToFormat(QImage::Format_RGB32);
 }
 
+QImage scaled(const QImage& picture, double factor) {
+    return picture.isNull() ? picture
+                            : picture.scaled((QSizeF(picture.size()) * factor).toSize(), Qt::IgnoreAspectRatio,
+                                             Qt::SmoothTransformation);
+}
+
+/// Pictures in a row around a point, each as far from the next as `gap` says.
+void paintRow(QPainter& painter, const std::vector<QImage>& pictures, QPointF middle, double gap) {
+    double width = gap * (static_cast<double>(pictures.size()) - 1);
+    for (const QImage& picture : pictures)
+        width += picture.width();
+    double x = middle.x() - width / 2;
+    for (const QImage& picture : pictures) {
+        // On whole pixels, so that small pictures stay sharp.
+        painter.drawImage(QPointF(x, middle.y() - picture.height() / 2.0).toPoint(), picture);
+        x += picture.width() + gap;
+    }
+}
+
+/// The lock screen's own digits.
+void paintClock(QPainter& painter, const PreviewSource& source, QPointF middle, double factor) {
+    std::vector<QImage> digits;
+    for (const char* name : {"number_0", "number_8", "colon", "number_0", "number_8"}) {
+        const std::string path = std::string("unlock_amazing/drawable-hdpi/") + name + ".png";
+        digits.push_back(scaled(source.picture(path), factor));
+    }
+    paintRow(painter, digits, middle, 0);
+}
+
 } // namespace
 
 QImage paintSmallIcon(const PreviewSource& source, QSize size) {
@@ -35,19 +65,13 @@ QImage paintSmallIcon(const PreviewSource& source, QSize size) {
         return {};
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
+    const double unit = size.width() / 1080.0;
     const double middle = size.width() / 2.0;
-    const int digits = static_cast<int>(std::lround(size.width() * 0.22));
-    const QPainterPath clock =
-        centredText(source.generation.clockFace, digits, "08:08", {middle, size.height() * 0.34});
-    painter.fillPath(clock, QColor::fromRgba(source.generation.lockInk));
-    const int side = static_cast<int>(std::lround(size.width() * 0.145));
-    const double pitch = side * 1.22;
-    double x = middle - pitch * (static_cast<int>(icons.size()) - 1) / 2.0;
-    for (const char* icon : icons) {
-        const QImage drawn = source.picture(icon).scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        painter.drawImage(QPointF(std::round(x - side / 2.0), std::round(size.height() * 0.76 - side / 2.0)), drawn);
-        x += pitch;
-    }
+    paintClock(painter, source, {middle, size.height() * 0.34}, unit);
+    std::vector<QImage> row;
+    for (const char* icon : icons)
+        row.push_back(scaled(source.picture(icon), unit * 0.82));
+    paintRow(painter, row, {middle, size.height() * 0.77}, unit * 36);
     painter.end();
     return picture;
 }

@@ -7,6 +7,7 @@
 #include <QFontMetricsF>
 #include <QPainterPath>
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -31,6 +32,12 @@ const char* nameOf(Language language) {
         return "OVUI 9.1  Aurora";
     }
     return "";
+}
+
+/// Of the channel in which they differ most.
+int distance(QRgb one, QRgb other) {
+    return std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
+                     std::abs(qBlue(one) - qBlue(other))});
 }
 
 /// Gives where the text ends.
@@ -155,7 +162,7 @@ bool isFaint(const QImage& picture) {
     for (int y = 0; y < pixels.height(); ++y) {
         for (int x = 0; x < pixels.width(); ++x) {
             const QRgb pixel = pixels.pixel(x, y);
-            contrast += qAlpha(pixel) / 255.0 * std::abs(qGray(pixel) - qGray(lightSquare));
+            contrast += qAlpha(pixel) / 255.0 * distance(pixel, lightSquare);
             painted += qAlpha(pixel) ? 1 : 0;
         }
     }
