@@ -120,9 +120,10 @@ public:
         constexpr int left = 75;
         constexpr int weather = 909; // Over the last column.
         const double top = _layout.firstRow + 30;
+        const LockScene scene = phoneScene();
         const Face& digits = _source.generation.clockFace;
-        _written.addPath(lineFrom(digits, 240, "08:08", {left, top + 174}));
-        _written.addPath(lineFrom(textFace, 48, "Tuesday, 14 May", {left, top + 276}));
+        _written.addPath(lineFrom(digits, 240, timeText(scene), {left, top + 174}));
+        _written.addPath(lineFrom(textFace, 48, scene.date, {left, top + 276}));
         paintPicture("icons/dynamic_icons/com.zendro.android.totemweather/sunny.png", {weather, top + 90});
         _written.addPath(centredText(textFace, 48, "24 °C", {weather, top + 258}));
     }

@@ -11,8 +11,6 @@ namespace zdt::assets {
 namespace {
 
 constexpr QRectF statusArea(0, 16, phoneWidth, 84);
-constexpr const char* statusTime = "08:08";
-constexpr int statusBattery = 84;
 
 /// Back, home and the last applications.
 QPainterPath keyOutlines(double middle) {
@@ -40,8 +38,15 @@ QImage blurred(const QImage& picture, int radius) {
 
 } // namespace
 
+LockScene phoneScene() {
+    LockScene scene;
+    scene.battery = 84; // As on the screens that the editor shows.
+    return scene;
+}
+
 void paintStatus(QPainter& painter, QRgb ink) {
-    drawStatusBar(painter, statusArea, ink, statusTime, statusBattery);
+    const LockScene scene = phoneScene();
+    drawStatusBar(painter, statusArea, ink, timeText(scene), scene.battery);
 }
 
 void paintSystemBar(QPainter& painter, int height, const Generation& generation, QRgb ink) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "assets/art/generation.h"
+#include "assets/lock/lockScene.h"
 
 #include <QImage>
 #include <QPainter>
@@ -18,6 +19,9 @@ inline constexpr int keyBarHeight = 120;
 [[nodiscard]] constexpr bool hasKeys(const Generation& generation) {
     return generation.screenHeight < static_cast<int>(tallScreenHeight);
 }
+
+/// What the phone tells on all of its screens.
+[[nodiscard]] LockScene phoneScene();
 
 /// The time, networks and battery at the top, as on the screens that the editor shows.
 void paintStatus(QPainter& painter, QRgb ink);

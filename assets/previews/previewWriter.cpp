@@ -18,11 +18,7 @@ namespace zdt::assets {
 namespace {
 
 QImage paintLock(const PreviewSource& source, QSize size) {
-    // The day and the battery of the other screens.
-    LockScene scene;
-    scene.date = "Tuesday, 14 May";
-    scene.battery = 84;
-    return paintLockScreen(source.templateDirectory, size, source.generation, scene);
+    return paintLockScreen(source.templateDirectory, size, source.generation, phoneScene());
 }
 
 /// A picture is painted, or is a screen of an application.

@@ -22,7 +22,7 @@ QImage homeWithClock(const TemplateFolder& folder) {
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     QPainterPath texts = centredText(folder.generation.clockFace, 250, "08:08", middle);
-    texts.addPath(centredText({interFace, 400}, 50, "Tuesday, 14 May", middle + QPointF(0, 190)));
+    texts.addPath(centredText({interFace, 400}, 50, phoneScene().date, middle + QPointF(0, 190)));
     paintLifted(painter, texts, 0xffffffff);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(QColor(255, 255, 255, 90), 3, Qt::DashLine));
@@ -94,7 +94,7 @@ Sheet wallpaperSheet(const TemplateFolder& folder) {
     Sheet sheet(folder.generation, "Wallpapers");
     addShots(sheet, {{"home_wallpaper_0, the middle page within the lines", homeWithClock(folder)},
                      {"unlock_wallpaper_1 under the lock screen",
-                      paintLockScreen(folder.directory, phone, folder.generation, LockScene())}});
+                      paintLockScreen(folder.directory, phone, folder.generation, phoneScene())}});
     return sheet;
 }
 
