@@ -117,7 +117,7 @@ public:
     /// Time and date at the left, the weather at the right.
     void addWidget() {
         constexpr Face textFace{interFace, 400};
-        constexpr int left = 75;
+        constexpr int left = 82;     // As the icons below.
         constexpr int weather = 909; // Over the last column.
         const double top = _layout.firstRow + 30;
         const LockScene scene = phoneScene();

@@ -16,14 +16,27 @@ constexpr std::array<const char*, 5> icons{
     "icons/com.android.music.png",
 };
 
-/// The part of the wallpaper behind a picture: its lower middle, where the land meets the sky.
-QImage cutWallpaper(const PreviewSource& source, QSize size) {
+/// Parts of the picture's width and height.
+struct Arrangement {
+    QPointF clock;    ///< Its middle.
+    double clockSize; ///< 1 is as on the lock screen.
+    double icons;     ///< The middle of the row.
+    double sunnyCut;  ///< How much of what is cut off the wallpaper lies above.
+    double nightCut;
+};
+
+/// The clock stands in the sky beside the sun, or above it.
+constexpr Arrangement landscape{{0.305, 0.185}, 0.62, 0.79, 0.40, 0.66};
+constexpr Arrangement square{{0.5, 0.2}, 1, 0.855, 0.32, 0.62};
+
+QImage cutWallpaper(const PreviewSource& source, QSize size, const Arrangement& arrangement) {
     const QImage whole = source.picture("wallpaper/unlock_wallpaper_1.jpg");
     if (whole.isNull())
         return {};
+    const bool isNight = source.generation.language == Language::aurora;
     const int height = whole.width() * size.height() / size.width();
-    const int top = static_cast<int>((whole.height() - height) * 0.62);
-    return whole.copy(0, top, whole.width(), height)
+    const double above = (whole.height() - height) * (isNight ? arrangement.nightCut : arrangement.sunnyCut);
+    return whole.copy(0, static_cast<int>(above), whole.width(), height)
         .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
         .convertToFormat(QImage::Format_RGB32);
 }
@@ -60,18 +73,19 @@ void paintClock(QPainter& painter, const PreviewSource& source, QPointF middle, 
 } // namespace
 
 QImage paintSmallIcon(const PreviewSource& source, QSize size) {
-    QImage picture = cutWallpaper(source, size);
+    const Arrangement& arrangement = size.width() > size.height() ? landscape : square;
+    QImage picture = cutWallpaper(source, size, arrangement);
     if (picture.isNull())
         return {};
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     const double unit = size.width() / 1080.0;
-    const double middle = size.width() / 2.0;
-    paintClock(painter, source, {middle, size.height() * 0.34}, unit);
+    const QPointF clock(size.width() * arrangement.clock.x(), size.height() * arrangement.clock.y());
+    paintClock(painter, source, clock, unit * arrangement.clockSize);
     std::vector<QImage> row;
     for (const char* icon : icons)
         row.push_back(scaled(source.picture(icon), unit * 0.82));
-    paintRow(painter, row, {middle, size.height() * 0.77}, unit * 36);
+    paintRow(painter, row, {size.width() / 2.0, size.height() * arrangement.icons}, unit * 36);
     painter.end();
     return picture;
 }
