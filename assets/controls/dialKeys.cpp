@@ -30,7 +30,7 @@ struct KeyStyle {
 constexpr std::array<KeyStyle, 3> keyStyles{{
     {{interDisplayFace, 600}, 98, {interDisplayFace, 500}, 132, {interDisplayFace, 600}, 88, {172, 172}},
     {{serifFace, 400}, 100, {serifFace, 400}, 120, {serifFace, 400}, 90, {172, 172}},
-    {{interDisplayFace, 300}, 104, {interDisplayFace, 250}, 140, {interDisplayFace, 300}, 92, {236, 172}},
+    {{interDisplayFace, 300}, 104, {interDisplayFace, 200}, 140, {interDisplayFace, 300}, 92, {236, 172}},
 }};
 
 /// The character of a key; 0 for a name that is none.

@@ -84,7 +84,7 @@ struct Frame {
 };
 
 /// @param margins between the picture's border and the box
-/// @param least heights of what may not be stretched at the top and bottom of the box
+/// @param reach how far from a corner's end the edges still differ from their middle
 Frame layOut(const PanelRow& row, const Generation& generation, const QMargins& margins, int reach) {
     const double radius = row.radius * generation.controlRadius;
     const int least = 2 * (static_cast<int>(std::ceil(radius)) + reach) + run;

@@ -125,7 +125,7 @@ inline constexpr auto panelTable = [] {
         {"spinner_menu.9.png", dropDown, 132, 96, clear, grey, 0, 12, 12, flat, sign::expandMore},
         {"btn_default_disabled_ovui.9.png", box, 132, 120, field, fieldPressed, 44, 30, 18, off},
         {"btn_default_normal_ovui.9.png", box, 132, 120, paper, inkPressed, 44, 30, 18, button},
-        {"btn_default_pressed_ovui.9.png", box, 132, 120, fieldPressed, clear, 44, 30, 18, held},
+        {"btn_default_pressed_ovui.9.png", box, 132, 120, 0xffdadada, clear, 44, 30, 18, held},
         {"expander_close_ovui.9.png", loneSign, 72, 72, clear, grey, 0, 0, 0, flat, sign::expandMore},
         {"expander_open_ovui.9.png", loneSign, 72, 72, clear, grey, 0, 0, 0, flat, sign::expandLess},
         {"popup_full_bright_ovui.9.png", box, 180, 180, paperVeil, clear, 48, 36, 30, card},

@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <numbers>
 
 namespace zdt::assets {
 
@@ -36,29 +38,36 @@ QRectF middlePart(const QRectF& box, double part) {
     return inset(box, box.width() * (1 - part) / 2);
 }
 
-/// A gradient around the middle: `inner` at the part `start` of the radius, nothing at the edge.
-void drawFade(const Work& work, double start, bool hollow) {
+/// A light around the middle that is strongest at the part `start` of the radius and gone at the border.
+/// @param inwards how far it reaches towards the middle, as a part of the radius; all the way as strong for 0
+void drawFade(const Work& work, double start, double inwards) {
     constexpr double strength = 0.55;
+    constexpr int steps = 32;
     const QRectF area = work.canvas.area();
     QRadialGradient fade(area.center(), area.width() / 2);
-    // Along half a cosine, so that no kink is seen.
-    constexpr int steps = 32;
     for (int step = 0; step <= steps; ++step) {
         const double at = static_cast<double>(step) / steps;
-        const double away = at > start ? (at - start) / (1 - start) : hollow ? std::min(1.0, (start - at) / 0.25) : 0;
+        double away = 0;
+        if (at > start)
+            away = (at - start) / (1 - start);
+        else if (inwards > 0)
+            away = std::min(1.0, (start - at) / inwards);
+        // Along half a cosine, so that no kink is seen.
         QColor stop = palette::colour(work.row.ground);
-        stop.setAlphaF(static_cast<float>(strength * (1 + std::cos(away * M_PI)) / 2));
+        stop.setAlphaF(static_cast<float>(strength * (1 + std::cos(away * std::numbers::pi)) / 2));
         fade.setColorAt(at, stop);
     }
     work.canvas.painter().setBrush(fade);
     work.canvas.painter().drawEllipse(area);
 }
 
+/// The colour with a part of white in it.
 QColor mixed(QRgb colour, double white) {
     const auto channel = [white](int value) { return qRound(value + (255 - value) * white); };
     return QColor(channel(qRed(colour)), channel(qGreen(colour)), channel(qBlue(colour)), qAlpha(colour));
 }
 
+/// Whether light and shadows are seen on it.
 bool isBright(QRgb ground) {
     return ground == palette::accent || ground == palette::accentPressed;
 }
@@ -175,10 +184,10 @@ void drawShape(const Work& work) {
         drawKnob(work, true);
         break;
     case SymbolShape::glow:
-        drawFade(work, 0.12, false);
+        drawFade(work, 0.12, 0);
         break;
     case SymbolShape::ring:
-        drawFade(work, 0.75, true);
+        drawFade(work, 0.75, 0.25);
         break;
     }
 }
