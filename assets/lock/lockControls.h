@@ -11,6 +11,9 @@ enum class Notice { message, missedCall };
 /// The ground of a notice's text, with its sign at the left.
 [[nodiscard]] QImage drawNoticeCard(Notice notice, const Generation& generation);
 
+/// The ground of a text at the foot.
+[[nodiscard]] QImage drawFootCard(const Generation& generation);
+
 /// The ground of the music control: a note at the left, a mark at the right that folds it away.
 [[nodiscard]] QImage drawMusicPanel(const Generation& generation);
 [[nodiscard]] QImage drawMusicSkip(char32_t sign, bool isPressed, const Generation& generation);

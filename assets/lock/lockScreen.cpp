@@ -10,6 +10,8 @@
 
 #include <QString>
 
+#include <algorithm>
+#include <memory>
 #include <string_view>
 
 namespace zdt::assets {
@@ -31,15 +33,17 @@ constexpr int musicTop = noticesTop + 2 * noticeCard.height + 6;
 
 // From its lower edge.
 constexpr int ringTop = 580;
-constexpr int chargeTextTop = ringTop - chargeRing.height - 4;
-constexpr int arrowTop = 216;
-constexpr int ownerTop = 104;
+constexpr int chargeTextTop = ringTop - chargeRing.height - 2;
+constexpr int arrowTop = chargeTextTop - footCard.height;
+constexpr int ownerTop = arrowTop - lockArrow.height - 2;
 constexpr int trackTop = 460;
-constexpr int slideChargeTop = 550;
+constexpr int slideChargeTop = trackTop + footCard.height + 10;
 
 constexpr int textHeight = 70;
 constexpr int textSize = 14;
 constexpr int dateSize = 16;
+/// Half the height of capitals in a text of that size.
+constexpr int halfCapital = 17;
 
 struct Place {
     std::string x;
@@ -100,7 +104,7 @@ public:
             x += cell.width;
         }
         const double baseline = clockTop + digitLines(lockDigit.height, _generation).baseline;
-        const int amPmTop = static_cast<int>(baseline) - textHeight / 2 - dateSize;
+        const int amPmTop = static_cast<int>(baseline) - textHeight / 2 - halfCapital;
         addText(layoutDefaults::amPmSource, at(x + 4, amPmTop, {140, textHeight}), "left", dateSize,
                 _generation.lockInk);
     }
@@ -118,8 +122,7 @@ public:
         int y = noticesTop;
         for (const char* what : {"message", "call"}) {
             const std::string src = std::string("system.") + what + ".text";
-            const std::string visible = std::string("system.") + what + ".count gt 0";
-            addImage(std::string("card_") + what + ".png", at(x, y, noticeCard), visible);
+            addImage(std::string("card_") + what + ".png", at(x, y, noticeCard), textRow(src).visible);
             addText(src, at(x + textLeft, y, {noticeCard.width - textLeft - shadowRoom, noticeCard.height}), "left",
                     textSize, _look.cardInk);
             y += noticeCard.height;
@@ -133,7 +136,10 @@ public:
     }
 
     void addFootText(std::string_view src, int top) {
-        addText(src, atFoot(0, top, {width, textHeight}), "center", textSize, _look.footInk);
+        const Place place = atFoot(centred(footCard.width), top, footCard);
+        if (hasFootCards(_look))
+            addImage("card_foot.png", place, textRow(src).visible);
+        addText(src, place, "center", textSize, _look.footInk);
     }
 
     /// A double tap on the clock shows the music, one on the panel's fold hides it.
@@ -172,10 +178,14 @@ private:
             element, {place.x, place.y, std::to_string(place.size.width), std::to_string(place.size.height)});
     }
 
-    /// A text of the phone's own layout, which tells when it shows, in another place and colour.
+    /// A text of the phone's own layout, which tells when it shows.
+    static const layoutDefaults::Text& textRow(std::string_view src) {
+        return *std::ranges::find(layoutDefaults::texts, src, &layoutDefaults::Text::src);
+    }
+
+    /// The same in another place and colour.
     void addText(std::string_view src, const Place& place, const char* align, int size, QRgb colour) {
-        const auto row = std::ranges::find(layoutDefaults::texts, src, &layoutDefaults::Text::src);
-        AmazingChild text = placed(layoutDefaults::makeText(*row), place);
+        AmazingChild text = placed(layoutDefaults::makeText(textRow(src)), place);
         text.setAttribute("align", align);
         text.setAttribute("size", std::to_string(size));
         text.setAttribute("color", QString::asprintf("#%08x", colour).toStdString());
