@@ -84,12 +84,9 @@ QImage drawNoticeCard(Notice notice, const Generation& generation) {
 
 QImage drawFootCard(const Generation& generation) {
     Canvas canvas(sizeOf(footCard));
-    const QRectF area = canvas.area();
-    if (isPaper(generation))
-        drawCard(canvas.painter(), area, cardRadius(faceOf(area), generation), generation);
-    else
-        canvas.painter().fillPath(roundedPath(faceOf(area), faceOf(area).height() / 2),
-                                  palette::colour(lookOf(generation.language).footCard));
+    const QRectF face = faceOf(canvas.area());
+    canvas.painter().fillPath(roundedPath(face, face.height() / 2),
+                              palette::colour(lookOf(generation.language).footCard));
     return canvas.finish();
 }
 
@@ -142,7 +139,7 @@ QImage drawLockArrow(const Generation& generation) {
     for (const double top : hint.tops) {
         alpha += 1 / static_cast<float>(hint.tops.size());
         const QPainterPath angle = chevronUp({canvas.area().center().x(), top}, hint.halfWidth, hint.height);
-        QColor colour = palette::colour(lookOf(generation.language).hintInk);
+        QColor colour = palette::colour(lookOf(generation.language).footInk);
         colour.setAlphaF(alpha);
         if (isPaper(generation))
             canvas.painter().strokePath(angle.translated(3, 5), roundPen(palette::colour(hint.shadow), hint.lineWidth));

@@ -32,8 +32,7 @@ inline constexpr int shadowRoom = 10;
 struct LockLook {
     bool isCentred; ///< Clock, date and notices; otherwise they stand at the left.
     QRgb footCard;  ///< Below texts at the foot, where the wallpaper is light and dark; clear for none.
-    QRgb footInk;   ///< Those texts.
-    QRgb hintInk;   ///< What stands on the wallpaper's foot itself.
+    QRgb footInk;   ///< Those texts, and the arrow.
     QRgb cardInk;   ///< Texts on cards.
     QRgb cardTop;   ///< Cards, from above down.
     QRgb cardBottom;
@@ -46,9 +45,8 @@ struct LockLook {
 };
 
 inline constexpr LockLook paperLock{.isCentred = true,
-                                    .footCard = 0xfffffdf6,
-                                    .footInk = 0xff12403f,
-                                    .hintInk = 0xfffffdf6,
+                                    .footCard = palette::clear,
+                                    .footInk = 0xfffffdf6,
                                     .cardInk = 0xff12403f,
                                     .cardTop = 0xfffffdf6,
                                     .cardBottom = 0xfffffdf6,
@@ -61,7 +59,6 @@ inline constexpr LockLook paperLock{.isCentred = true,
 inline constexpr LockLook duneLock{.isCentred = false,
                                    .footCard = 0x7a431d14,
                                    .footInk = 0xfffff3e0,
-                                   .hintInk = 0xfffff3e0,
                                    .cardInk = 0xff4a2619,
                                    .cardTop = 0xe6fff8ec,
                                    .cardBottom = 0xe6f8e6cc,
@@ -74,7 +71,6 @@ inline constexpr LockLook duneLock{.isCentred = false,
 inline constexpr LockLook auroraLock{.isCentred = true,
                                      .footCard = palette::clear,
                                      .footInk = 0xffffffff,
-                                     .hintInk = 0xffffffff,
                                      .cardInk = 0xffffffff,
                                      .cardTop = 0x5c3f6fa0,
                                      .cardBottom = 0x5c1d3d66,

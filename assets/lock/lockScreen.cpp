@@ -136,7 +136,8 @@ public:
     }
 
     void addFootText(std::string_view src, int top) {
-        const Place place = atFoot(centred(footCard.width), top, footCard);
+        const Cell line = hasFootCards(_look) ? footCard : Cell{width, footCard.height};
+        const Place place = atFoot(centred(line.width), top, line);
         if (hasFootCards(_look))
             addImage("card_foot.png", place, textRow(src).visible);
         addText(src, place, "center", textSize, _look.footInk);
