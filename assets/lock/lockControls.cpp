@@ -92,15 +92,9 @@ QImage drawFootCard(const Generation& generation) {
 
 QImage drawMusicPanel(const Generation& generation) {
     Canvas canvas(sizeOf(musicPanel));
-    const LockLook& look = lookOf(generation.language);
     const QRectF face = faceOf(canvas.area());
     drawCard(canvas.painter(), canvas.area(), cardRadius(face, generation), generation);
     drawWaves(canvas.painter(), face, generation);
-    drawNoticeSign(canvas.painter(), sign::musicNote, face.topLeft() + QPointF(100, face.height() / 2), 96,
-                   look.message, generation);
-    QPainterPath fold = chevronUp(QPointF(), 20, -12);
-    canvas.painter().strokePath(fold.translated(face.right() - 84, face.center().y() + 6),
-                                roundPen(palette::colour((look.cardInk & 0xffffff) | 0x99000000), 5));
     return canvas.finish();
 }
 

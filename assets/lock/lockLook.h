@@ -17,8 +17,8 @@ struct Cell {
 /// The default clock has cells of the same proportions.
 inline constexpr Cell lockDigit{180, 360};
 inline constexpr Cell lockColon{54, 360};
-inline constexpr Cell noticeCard{620, 108}; ///< With its shadow, as the music panel.
-inline constexpr Cell musicPanel{980, 190};
+inline constexpr Cell noticeCard{700, 108}; ///< With its shadow, as the music panel.
+inline constexpr Cell musicPanel{700, 190};
 inline constexpr Cell musicSkip{104, 104};
 inline constexpr Cell musicPlay{130, 130};
 inline constexpr Cell chargeRing{280, 280};
@@ -40,7 +40,7 @@ struct LockLook {
     QRgb accentTop; ///< What is on or moves, from above down.
     QRgb accentBottom;
     QRgb accentInk; ///< Signs on that.
-    QRgb message;   ///< The sign of new messages, and of music.
+    QRgb message;   ///< The sign of new messages.
     QRgb missedCall;
 };
 

@@ -118,7 +118,7 @@ public:
     /// The cards of messages and of missed calls with their texts.
     void addNotices() {
         constexpr int textLeft = shadowRoom + 100;
-        const int x = _isCentred ? centred(noticeCard.width) : margin - shadowRoom;
+        const int x = cardLeft(noticeCard);
         int y = noticesTop;
         for (const char* what : {"message", "call"}) {
             const std::string src = std::string("system.") + what + ".text";
@@ -143,22 +143,21 @@ public:
         addText(src, place, "center", textSize, _look.footInk);
     }
 
-    /// A double tap on the clock shows the music, one on the panel's fold hides it.
+    /// A double tap on the clock shows the music, one on its panel hides it.
     void addMusic() {
-        constexpr Cell fold{120, musicPanel.height - 2 * shadowRoom};
-        const int x = centred(musicPanel.width);
-        const int middle = musicTop + musicPanel.height / 2;
+        constexpr int step = 200;
+        const int x = cardLeft(musicPanel);
+        const Place panel = at(x, musicTop, musicPanel);
         add(placed(layoutDefaults::makeMusicButton(true),
                    at(margin, clockTop, {width - 2 * margin, lockDigit.height})));
-        add(placed(layoutDefaults::makeMusicButton(false),
-                   at(x + musicPanel.width - shadowRoom - fold.width, musicTop + shadowRoom, fold)));
+        add(placed(layoutDefaults::makeMusicButton(false), panel));
         AmazingChild control = layoutDefaults::makeMusicControl();
-        place(*control.children()[0], at(x, musicTop, musicPanel));
-        constexpr int step = 180;
+        place(*control.children().front(), panel);
         for (int index = 0; index < 3; ++index) {
             const Cell& cell = index == 1 ? musicPlay : musicSkip;
             place(*control.children()[static_cast<std::size_t>(index) + 1],
-                  at(centred(cell.width) + (index - 1) * step, middle - cell.height / 2, cell));
+                  at(x + (musicPanel.width - cell.width) / 2 + (index - 1) * step,
+                     musicTop + (musicPanel.height - cell.height) / 2, cell));
         }
         add(std::move(control));
     }
@@ -193,6 +192,10 @@ private:
         add(std::move(text));
     }
 
+    /// The surface of a card at the left begins where texts do.
+    [[nodiscard]] int cardLeft(const Cell& card) const {
+        return _isCentred ? centred(card.width) : margin - shadowRoom;
+    }
     [[nodiscard]] const char* textAlign() const { return _isCentred ? "center" : "left"; }
 
     const Generation& _generation;
