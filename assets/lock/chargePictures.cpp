@@ -41,7 +41,7 @@ QPointF onCircle(QPointF middle, double radius, double part) {
 /// A ring of light on dark glass.
 void drawLight(QPainter& painter, QPointF middle, double fill) {
     constexpr double radius = 112;
-    constexpr double line = 9;
+    constexpr double line = 11;
     const QPainterPath track = disc(middle, radius);
     const QPainterPath light = arc(middle, radius, 0, fill);
     // Its seam lies a little before the top, behind the round start of the light.
@@ -52,10 +52,10 @@ void drawLight(QPainter& painter, QPointF middle, double fill) {
     hues.setColorAt(0.06, palette::colour(0xff66d8e6));
     hues.setColorAt(0, palette::colour(0xff58f2bd));
     QRadialGradient glass(middle, radius);
-    glass.setColorAt(0, palette::colour(0x66081a30));
-    glass.setColorAt(1, palette::colour(0x38081a30));
+    glass.setColorAt(0, palette::colour(0xa6061426));
+    glass.setColorAt(1, palette::colour(0x80061426));
     painter.fillPath(track, glass);
-    painter.strokePath(track, QPen(palette::colour(0x38ffffff), 3));
+    painter.strokePath(track, QPen(palette::colour(0x66ffffff), 3));
     drawGlow(painter, light, 0x8058e8d0, 26);
     painter.strokePath(light, roundPen(hues, line));
     if (fill < 1) {

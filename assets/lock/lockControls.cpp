@@ -82,17 +82,19 @@ QImage drawNoticeCard(Notice notice, const Generation& generation) {
     return canvas.finish();
 }
 
+QImage drawFootCard(const Generation& generation) {
+    Canvas canvas(sizeOf(footCard));
+    const QRectF face = faceOf(canvas.area());
+    canvas.painter().fillPath(roundedPath(face, face.height() / 2),
+                              palette::colour(lookOf(generation.language).footCard));
+    return canvas.finish();
+}
+
 QImage drawMusicPanel(const Generation& generation) {
     Canvas canvas(sizeOf(musicPanel));
-    const LockLook& look = lookOf(generation.language);
     const QRectF face = faceOf(canvas.area());
     drawCard(canvas.painter(), canvas.area(), cardRadius(face, generation), generation);
     drawWaves(canvas.painter(), face, generation);
-    drawNoticeSign(canvas.painter(), sign::musicNote, face.topLeft() + QPointF(100, face.height() / 2), 96,
-                   look.message, generation);
-    QPainterPath fold = chevronUp(QPointF(), 20, -12);
-    canvas.painter().strokePath(fold.translated(face.right() - 84, face.center().y() + 6),
-                                roundPen(palette::colour((look.cardInk & 0xffffff) | 0x99000000), 5));
     return canvas.finish();
 }
 
@@ -113,28 +115,31 @@ QImage drawMusicPlay(char32_t sign, const Generation& generation) {
 }
 
 QImage drawLockArrow(const Generation& generation) {
-    struct Chevron {
-        double top;
-        double alpha;
-    };
     struct Hint {
-        double width;
+        double lineWidth;
         double halfWidth;
         double height;
-        std::array<Chevron, 3> chevrons;
+        QRgb shadow;
+        std::vector<double> tops; ///< From the faintest angle to the strongest.
     };
-    constexpr std::array<Hint, 3> hints{{
-        {9, 30, 24, {{{20, 0.45}, {48, 1}, {0, 0}}}},
-        {6, 28, 18, {{{22, 0.5}, {46, 1}, {0, 0}}}},
-        {4, 26, 16, {{{20, 0.3}, {42, 0.6}, {64, 1}}}},
+    const std::array<Hint, 3> hints{{
+        {9, 29, 23, 0x7012403f, {18, 46}},
+        {6, 28, 18, 0x905a2412, {20, 45}},
+        {5, 27, 16, 0x60061426, {12, 34, 56}},
     }};
     Canvas canvas(sizeOf(lockArrow));
     const Hint& hint = hints[static_cast<std::size_t>(generation.language)];
-    for (const Chevron& chevron : hint.chevrons) {
+    float alpha = 0;
+    for (const double top : hint.tops) {
+        alpha += 1 / static_cast<float>(hint.tops.size());
+        const QPainterPath angle = chevronUp({canvas.area().center().x(), top}, hint.halfWidth, hint.height);
         QColor colour = palette::colour(lookOf(generation.language).footInk);
-        colour.setAlphaF(static_cast<float>(chevron.alpha));
-        canvas.painter().strokePath(chevronUp({canvas.area().center().x(), chevron.top}, hint.halfWidth, hint.height),
-                                    roundPen(colour, hint.width));
+        colour.setAlphaF(alpha);
+        if (isPaper(generation))
+            canvas.painter().strokePath(angle.translated(3, 5), roundPen(palette::colour(hint.shadow), hint.lineWidth));
+        else
+            drawGlow(canvas.painter(), angle, hint.shadow, 12);
+        canvas.painter().strokePath(angle, roundPen(colour, hint.lineWidth));
     }
     return canvas.finish();
 }

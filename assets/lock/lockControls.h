@@ -11,7 +11,11 @@ enum class Notice { message, missedCall };
 /// The ground of a notice's text, with its sign at the left.
 [[nodiscard]] QImage drawNoticeCard(Notice notice, const Generation& generation);
 
-/// The ground of the music control: a note at the left, a mark at the right that folds it away.
+/// The ground of a text at the foot.
+[[nodiscard]] QImage drawFootCard(const Generation& generation);
+
+/// The ground of the music control. It bears no signs, so that it also serves as the small square of the phone's own
+/// layout.
 [[nodiscard]] QImage drawMusicPanel(const Generation& generation);
 [[nodiscard]] QImage drawMusicSkip(char32_t sign, bool isPressed, const Generation& generation);
 [[nodiscard]] QImage drawMusicPlay(char32_t sign, const Generation& generation);

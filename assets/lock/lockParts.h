@@ -35,7 +35,6 @@ void drawLongShadow(QPainter& painter, const QPainterPath& shape, const QPainter
 void drawCard(QPainter& painter, const QRectF& area, double radius, const Generation& generation);
 
 /// A knob or button that is on: paper tile, sun or light, with a sign on it.
-/// @param shadow pixels around it that may take a shadow
 void drawAccent(QPainter& painter, const QRectF& area, char32_t sign, double signSide, const Generation& generation);
 
 } // namespace zdt::assets

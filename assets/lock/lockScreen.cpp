@@ -10,6 +10,8 @@
 
 #include <QString>
 
+#include <algorithm>
+#include <memory>
 #include <string_view>
 
 namespace zdt::assets {
@@ -31,15 +33,17 @@ constexpr int musicTop = noticesTop + 2 * noticeCard.height + 6;
 
 // From its lower edge.
 constexpr int ringTop = 580;
-constexpr int chargeTextTop = ringTop - chargeRing.height - 4;
-constexpr int arrowTop = 216;
-constexpr int ownerTop = 104;
+constexpr int chargeTextTop = ringTop - chargeRing.height - 2;
+constexpr int arrowTop = chargeTextTop - footCard.height;
+constexpr int ownerTop = arrowTop - lockArrow.height - 2;
 constexpr int trackTop = 460;
-constexpr int slideChargeTop = 550;
+constexpr int slideChargeTop = trackTop + footCard.height + 10;
 
 constexpr int textHeight = 70;
 constexpr int textSize = 14;
 constexpr int dateSize = 16;
+/// Half the height of capitals in a text of that size.
+constexpr int halfCapital = 17;
 
 struct Place {
     std::string x;
@@ -100,7 +104,7 @@ public:
             x += cell.width;
         }
         const double baseline = clockTop + digitLines(lockDigit.height, _generation).baseline;
-        const int amPmTop = static_cast<int>(baseline) - textHeight / 2 - dateSize;
+        const int amPmTop = static_cast<int>(baseline) - textHeight / 2 - halfCapital;
         addText(layoutDefaults::amPmSource, at(x + 4, amPmTop, {140, textHeight}), "left", dateSize,
                 _generation.lockInk);
     }
@@ -114,12 +118,11 @@ public:
     /// The cards of messages and of missed calls with their texts.
     void addNotices() {
         constexpr int textLeft = shadowRoom + 100;
-        const int x = _isCentred ? centred(noticeCard.width) : margin - shadowRoom;
+        const int x = cardLeft(noticeCard);
         int y = noticesTop;
         for (const char* what : {"message", "call"}) {
             const std::string src = std::string("system.") + what + ".text";
-            const std::string visible = std::string("system.") + what + ".count gt 0";
-            addImage(std::string("card_") + what + ".png", at(x, y, noticeCard), visible);
+            addImage(std::string("card_") + what + ".png", at(x, y, noticeCard), textRow(src).visible);
             addText(src, at(x + textLeft, y, {noticeCard.width - textLeft - shadowRoom, noticeCard.height}), "left",
                     textSize, _look.cardInk);
             y += noticeCard.height;
@@ -133,25 +136,28 @@ public:
     }
 
     void addFootText(std::string_view src, int top) {
-        addText(src, atFoot(0, top, {width, textHeight}), "center", textSize, _look.footInk);
+        const Cell line = hasFootCards(_look) ? footCard : Cell{width, footCard.height};
+        const Place place = atFoot(centred(line.width), top, line);
+        if (hasFootCards(_look))
+            addImage("card_foot.png", place, textRow(src).visible);
+        addText(src, place, "center", textSize, _look.footInk);
     }
 
-    /// A double tap on the clock shows the music, one on the panel's fold hides it.
+    /// A double tap on the clock shows the music, one on its panel hides it.
     void addMusic() {
-        constexpr Cell fold{120, musicPanel.height - 2 * shadowRoom};
-        const int x = centred(musicPanel.width);
-        const int middle = musicTop + musicPanel.height / 2;
+        constexpr int step = 200;
+        const int x = cardLeft(musicPanel);
+        const Place panel = at(x, musicTop, musicPanel);
         add(placed(layoutDefaults::makeMusicButton(true),
                    at(margin, clockTop, {width - 2 * margin, lockDigit.height})));
-        add(placed(layoutDefaults::makeMusicButton(false),
-                   at(x + musicPanel.width - shadowRoom - fold.width, musicTop + shadowRoom, fold)));
+        add(placed(layoutDefaults::makeMusicButton(false), panel));
         AmazingChild control = layoutDefaults::makeMusicControl();
-        place(*control.children()[0], at(x, musicTop, musicPanel));
-        constexpr int step = 180;
+        place(*control.children().front(), panel);
         for (int index = 0; index < 3; ++index) {
             const Cell& cell = index == 1 ? musicPlay : musicSkip;
             place(*control.children()[static_cast<std::size_t>(index) + 1],
-                  at(centred(cell.width) + (index - 1) * step, middle - cell.height / 2, cell));
+                  at(x + (musicPanel.width - cell.width) / 2 + (index - 1) * step,
+                     musicTop + (musicPanel.height - cell.height) / 2, cell));
         }
         add(std::move(control));
     }
@@ -172,16 +178,24 @@ private:
             element, {place.x, place.y, std::to_string(place.size.width), std::to_string(place.size.height)});
     }
 
-    /// A text of the phone's own layout, which tells when it shows, in another place and colour.
+    /// A text of the phone's own layout, which tells when it shows.
+    static const layoutDefaults::Text& textRow(std::string_view src) {
+        return *std::ranges::find(layoutDefaults::texts, src, &layoutDefaults::Text::src);
+    }
+
+    /// The same in another place and colour.
     void addText(std::string_view src, const Place& place, const char* align, int size, QRgb colour) {
-        const auto row = std::ranges::find(layoutDefaults::texts, src, &layoutDefaults::Text::src);
-        AmazingChild text = placed(layoutDefaults::makeText(*row), place);
+        AmazingChild text = placed(layoutDefaults::makeText(textRow(src)), place);
         text.setAttribute("align", align);
         text.setAttribute("size", std::to_string(size));
         text.setAttribute("color", QString::asprintf("#%08x", colour).toStdString());
         add(std::move(text));
     }
 
+    /// The surface of a card at the left begins where texts do.
+    [[nodiscard]] int cardLeft(const Cell& card) const {
+        return _isCentred ? centred(card.width) : margin - shadowRoom;
+    }
     [[nodiscard]] const char* textAlign() const { return _isCentred ? "center" : "left"; }
 
     const Generation& _generation;
