@@ -45,8 +45,9 @@ void paintListRow(QPainter& painter, const QRectF& area, QRgb discColour, Glyph 
     painter.fillRect(QRectF(left, area.bottom() - 2, area.right() - left, 2), palette::colour(palette::field));
 }
 
-void paintLabelledIcon(QPainter& painter, QPointF topLeft, double side, std::string_view name, QRgb labelColour) {
-    paintIcon(painter, name, QRectF(topLeft, QSizeF(side, side)));
+void paintLabelledIcon(QPainter& painter, QPointF topLeft, double side, std::string_view name, QRgb labelColour,
+                       const Generation& generation) {
+    paintIcon(painter, name, QRectF(topLeft, QSizeF(side, side)), generation);
     const double labelWidth = side * (0.5 + 0.04 * static_cast<double>(name.size() % 8));
     paintText(painter, QRectF(topLeft.x() + (side - labelWidth) / 2, topLeft.y() + side * 1.12, labelWidth, side * 0.1),
               labelColour);

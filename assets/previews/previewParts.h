@@ -1,5 +1,6 @@
 #pragma once
 
+#include "assets/art/generation.h"
 #include "assets/art/glyphs.h"
 #include "assets/art/palette.h"
 
@@ -26,7 +27,8 @@ void paintListRow(QPainter& painter, const QRectF& area, QRgb discColour, Glyph 
                   double textWidth);
 
 /// A labelled icon whose side is `side`, with its label below.
-void paintLabelledIcon(QPainter& painter, QPointF topLeft, double side, std::string_view name, QRgb labelColour);
+void paintLabelledIcon(QPainter& painter, QPointF topLeft, double side, std::string_view name, QRgb labelColour,
+                       const Generation& generation);
 
 /// The bar at the bottom of the screen with which the hand leaves an application.
 void paintHomeBar(QPainter& painter, const QRectF& screen, QRgb colour);

@@ -74,7 +74,7 @@ void paintIconRows(const Screen& screen, std::span<const std::string_view> names
     for (std::size_t index = 0; index < names.size(); ++index) {
         const QPointF cell = cellOf(index, 4);
         paintLabelledIcon(screen.painter, {gap + cell.x() * (side + gap), top + cell.y() * pitch}, side, names[index],
-                          palette::inkSoft);
+                          palette::inkSoft, screen.generation);
     }
 }
 
@@ -132,7 +132,7 @@ void paintWidgetScreen(const Screen& screen) {
     drawClock(painter, {card.left() + 48, card.top() + 60}, 250, palette::ink);
     paintText(painter, QRectF(card.left() + 72, card.top() + 350, 330, 32), palette::inkSoft);
     paintText(painter, QRectF(card.left() + 72, card.top() + 404, 220, 26), palette::inkFaint);
-    paintSunnyCloud(painter, QRectF(card.right() - 360, card.top() + 70, 310, 310));
+    paintSunnyCloud(painter, QRectF(card.right() - 360, card.top() + 70, 310, 310), screen.generation);
     paintText(painter, QRectF(card.right() - 285, card.top() + 404, 160, 26), palette::inkFaint);
     drawRaised(painter, QRectF(48, 730, screen.area.width() - 96, 150), 75, 9, palette::paperVeil);
     drawGlyph(painter, Glyph::search, QRectF(108, 770, 70, 70), palette::grey);
@@ -293,7 +293,7 @@ void paintSmallIcon(const Screen& screen) {
                                                     "com.android.mms.png"};
     for (std::size_t index = 0; index < names.size(); ++index) {
         const double middle = screen.area.center().x() + (static_cast<double>(index) - 1) * side * 1.3;
-        paintIcon(painter, names[index], QRectF(middle - side / 2, height * 0.58, side, side));
+        paintIcon(painter, names[index], QRectF(middle - side / 2, height * 0.58, side, side), screen.generation);
     }
 }
 
