@@ -11,10 +11,11 @@ class QPainter;
 
 namespace zdt::assets {
 
-/// Fills `area` with the generation's sky: a light gradient with large discs that the eye can see through. The upper
-/// left stays calm, since the lock screen's clock stands there in dark lines.
+/// Fills `area` with the lock screen's wallpaper, less sharp than it is.
 void paintWallpaper(QPainter& painter, const QRectF& area, const Generation& generation);
 
+/// The wallpaper of the home screen or of the lock screen, by its name in the theme. On the first one white labels
+/// stand, anywhere; on the second one the upper third carries the generation's `lockInk`, and the foot light letters.
 [[nodiscard]] QImage drawWallpaper(std::string_view name, QSize size, const Generation& generation);
 
 } // namespace zdt::assets
