@@ -1,8 +1,12 @@
 #include "assets/controls/dialKeys.h"
 
-#include "assets/art/digits.h"
 #include "assets/art/palette.h"
 #include "assets/art/picture.h"
+#include "assets/controls/forms.h"
+
+#include <QPainterPath>
+
+#include <array>
 
 namespace zdt::assets {
 
@@ -10,37 +14,70 @@ namespace {
 
 /// A third of the screen's width.
 constexpr QSize keySize(360, 192);
-constexpr double lineWidth = 6;
 
-void drawSign(QPainter& painter, std::string_view name, QPointF middle, QRgb colour) {
+/// How a language writes on keys. The star and the hash stand in faces and sizes of their own, so that they are as
+/// heavy as the digits.
+struct KeyStyle {
+    Face digits;
+    int digitPixels;
+    Face star;
+    int starPixels;
+    Face hash;
+    int hashPixels;
+    QSizeF ground; ///< Behind a key that is pressed.
+};
+
+constexpr std::array<KeyStyle, 3> keyStyles{{
+    {{interDisplayFace, 600}, 98, {interDisplayFace, 500}, 132, {interDisplayFace, 600}, 88, {172, 172}},
+    {{serifFace, 400}, 100, {serifFace, 400}, 120, {serifFace, 400}, 90, {172, 172}},
+    {{interDisplayFace, 300}, 104, {interDisplayFace, 200}, 140, {interDisplayFace, 300}, 92, {236, 172}},
+}};
+
+/// The character of a key; 0 for a name that is none.
+char characterOf(std::string_view name) {
     constexpr std::string_view digitPrefix = "dial_num_";
-    constexpr double digitHeight = 106;
-    constexpr double signSide = 62;
-    const QRectF square(middle.x() - signSide / 2, middle.y() - signSide / 2, signSide, signSide);
-    if (name.starts_with("xing")) {
-        drawAsterisk(painter, square, colour, lineWidth);
-    } else if (name.starts_with("jing")) {
-        drawHash(painter, square, colour, lineWidth);
-    } else {
-        const QRectF cell(middle.x() - digitHeight / 4, middle.y() - digitHeight / 2, digitHeight / 2, digitHeight);
-        drawDigit(painter, name[digitPrefix.size()] - '0', cell, colour, lineWidth);
-    }
+    if (name.starts_with(digitPrefix) && name.size() > digitPrefix.size())
+        return name[digitPrefix.size()];
+    if (name.starts_with("xing"))
+        return '*';
+    return name.starts_with("jing") ? '#' : '\0';
+}
+
+QPainterPath outlineOf(char character, const KeyStyle& style) {
+    const QString text(QLatin1Char{character});
+    if (character == '*')
+        return textOutline(style.star, style.starPixels, text);
+    if (character == '#')
+        return textOutline(style.hash, style.hashPixels, text);
+    return textOutline(style.digits, style.digitPixels, text);
+}
+
+/// The middle of a character's ink. Digits stand on one line, whatever rounds reach beyond it.
+QPointF middleOf(char character, const QPainterPath& path, const KeyStyle& style) {
+    const QPointF own = path.boundingRect().center();
+    const bool isDigit = character != '*' && character != '#';
+    return {own.x(), isDigit ? outlineOf('1', style).boundingRect().center().y() : own.y()};
 }
 
 } // namespace
 
-QImage drawDialKey(std::string_view name, const Generation&) {
-    if (!name.starts_with("dial_num_") && !name.starts_with("xing") && !name.starts_with("jing"))
+QImage drawDialKey(std::string_view name, const Generation& generation) {
+    const char character = characterOf(name);
+    if (character == '\0')
         return {};
+    const KeyStyle& style = keyStyles[static_cast<std::size_t>(generation.language)];
     const bool pressed = name.find("press") != std::string_view::npos;
     Canvas canvas(keySize);
     const QPointF middle = canvas.area().center();
     if (pressed) {
-        const double radius = keySize.height() / 2.0 - 8;
-        canvas.painter().setBrush(palette::colour(palette::inkPressed));
-        canvas.painter().drawEllipse(middle, radius, radius);
+        // Around the digit and the letters that the phone writes below it.
+        constexpr double drop = 9;
+        const QRectF ground(middle - QPointF(style.ground.width() / 2, style.ground.height() / 2 - drop), style.ground);
+        canvas.painter().fillPath(tileForm(ground, generation.language), palette::colour(palette::inkPressed));
     }
-    drawSign(canvas.painter(), name, middle, pressed ? palette::accent : palette::ink);
+    const QPainterPath path = outlineOf(character, style);
+    canvas.painter().translate(middle - middleOf(character, path, style));
+    canvas.painter().fillPath(path, palette::colour(pressed ? palette::accent : palette::ink));
     return canvas.finish();
 }
 

@@ -1,12 +1,11 @@
 #include "assets/controls/panels.h"
 
-#include "assets/art/outline.h"
 #include "assets/art/picture.h"
-#include "assets/art/shapes.h"
+#include "assets/controls/controlStyle.h"
 #include "assets/controls/ninePatch.h"
+#include "assets/controls/panelBoxes.h"
 #include "assets/controls/panelTable.h"
-
-#include <QPainterPath>
+#include "assets/controls/signs.h"
 
 #include <algorithm>
 
@@ -14,117 +13,111 @@ namespace zdt::assets {
 
 namespace {
 
-constexpr int lineWidth = 3;
-/// The pixels that a card's shadow and a bubble's tail take.
-constexpr int shadowDepth = 9;
-constexpr int tailWidth = 15;
-constexpr int triangleSide = 24;
+constexpr int signMargin = 12;
 
-void drawBubble(QPainter& painter, const QRectF& area, const PanelRow& row) {
-    const bool sent = row.shape == PanelShape::sentBubble;
-    if (sent) {
-        // Drawn as its mirror image.
-        painter.translate(area.width(), 0);
-        painter.scale(-1, 1);
-    }
-    QPainterPath path;
-    path.addRoundedRect(area.marginsRemoved({tailWidth, 0, 0, 0}), row.radius, row.radius);
-    QPainterPath tail;
-    tail.moveTo(0, area.height());
-    tail.quadTo(tailWidth, area.height() - 6, tailWidth, area.height() - row.radius - 6);
-    tail.lineTo(tailWidth + row.radius, area.height() - row.radius);
-    tail.lineTo(tailWidth + row.radius, area.height());
-    tail.closeSubpath();
-    painter.setBrush(palette::colour(row.fill));
-    painter.drawPath(path.united(tail));
+/// What is active has a heavier line.
+int lineWidthOf(const PanelRow& row, const ControlStyle& style) {
+    return row.edge == palette::accent ? style.lineWidth + 2 : style.lineWidth;
 }
 
-void drawTriangle(QPainter& painter, const QRectF& area, QRgb colour) {
-    const QPointF corner(area.right(), area.bottom() - 2 * lineWidth);
-    painter.setBrush(palette::colour(colour));
-    painter.drawPolygon(QPolygonF({corner, corner - QPointF(triangleSide, 0), corner - QPointF(0, triangleSide)}));
+QRect contentOf(const PanelRow& row) {
+    return QRect(0, 0, row.width, row.height)
+        .marginsRemoved({row.paddingAcross, row.paddingDown, row.paddingAcross, row.paddingDown});
 }
 
-void drawShape(QPainter& painter, const QRectF& area, const PanelRow& row) {
-    const QColor edge = palette::colour(row.edge);
-    switch (row.shape) {
-    case PanelShape::filled:
-        painter.fillRect(area, palette::colour(row.fill));
-        break;
-    case PanelShape::rounded:
-        drawRounded(painter, area, row.radius, row.fill, row.edge, lineWidth);
-        break;
-    case PanelShape::raised:
-        drawRaised(painter, area, row.radius, shadowDepth, row.fill);
-        break;
-    case PanelShape::underlined:
-    case PanelShape::overlined:
-    case PanelShape::dropDown:
-        painter.fillRect(area, palette::colour(row.fill));
-        painter.fillRect(
-            QRectF(0, row.shape == PanelShape::overlined ? 0 : area.bottom() - lineWidth, area.width(), lineWidth),
-            edge);
-        if (row.shape == PanelShape::dropDown)
-            drawTriangle(painter, area, row.edge);
-        break;
-    case PanelShape::receivedBubble:
-    case PanelShape::sentBubble:
-        drawBubble(painter, area, row);
-        break;
-    case PanelShape::sign:
-        drawGlyph(painter, row.glyph, area.marginsRemoved({12, 12, 12, 12}), row.edge);
-        break;
-    }
+QImage drawPlain(const PanelRow& row) {
+    Canvas canvas(QSize(row.width, row.height));
+    canvas.painter().fillRect(canvas.area(), palette::colour(row.fill));
+    return addGuides(canvas.finish(), {{{0, row.width}}, {{0, row.height}}, contentOf(row)});
 }
 
-Guides guidesOf(const PanelRow& row) {
+QImage drawLined(const PanelRow& row, const ControlStyle& style) {
+    const int line = lineWidthOf(row, style);
+    const int top = row.shape == PanelShape::overlined ? 0 : row.height - line;
+    const QRect rest(0, top == 0 ? line : 0, row.width, row.height - line);
+    Canvas canvas(QSize(row.width, row.height));
+    canvas.painter().fillRect(rest, palette::colour(row.fill));
+    canvas.painter().fillRect(QRect(0, top, row.width, line), palette::colour(row.edge));
+    return addGuides(canvas.finish(), {{{0, row.width}}, {{rest.y(), rest.height()}}, contentOf(row) & rest});
+}
+
+/// The arrow stays in the middle of what is above the line.
+QImage drawDropDown(const PanelRow& row, const ControlStyle& style) {
+    constexpr int side = 54;
+    constexpr int margin = 6;
     const QSize size(row.width, row.height);
-    Guides guides = evenGuides(size, row.radius, row.padding);
+    const int rest = row.height - style.lineWidth;
+    const int above = (rest - side) / 2;
+    const int left = row.width - side - margin;
+    Canvas canvas(size);
+    canvas.painter().fillRect(QRect(0, rest, row.width, style.lineWidth), palette::colour(row.edge));
+    drawSign(canvas.painter(), size, row.sign, QRectF(left, above, side, side), row.edge, style);
+    QRect content = contentOf(row) & QRect(0, 0, left, rest);
+    return addGuides(canvas.finish(), {{{0, left}}, {{0, above}, {above + side, rest - above - side}}, content});
+}
+
+QImage drawBar(const PanelRow& row, const Generation& generation) {
+    // As far from the middle as a line of this language is heavy.
+    const double width = 2 * styleOf(generation).lineWidth + 2;
+    const double inset = (std::min(row.width, row.height) - width) / 2;
+    const double radius = width / 2 * generation.controlRadius;
+    Canvas canvas(QSize(row.width, row.height));
+    canvas.painter().setBrush(palette::colour(row.fill));
+    canvas.painter().drawRoundedRect(canvas.area().marginsRemoved({inset, inset, inset, inset}), radius, radius);
+    const int corner = static_cast<int>(inset + radius) + 1;
+    Guides guides = evenGuides(QSize(row.width, row.height), corner, 0);
+    // Across it, what is stretched is one pixel in its middle.
+    const Run middle{std::min(row.width, row.height) / 2, 1};
+    (row.width < row.height ? guides.stretchAcross : guides.stretchDown) = {middle};
+    return addGuides(canvas.finish(), guides);
+}
+
+QImage drawLoneSign(const PanelRow& row, const ControlStyle& style) {
+    const QSize size(row.width, row.height);
+    Canvas canvas(size);
+    drawSign(canvas.painter(), size, row.sign,
+             canvas.area().marginsRemoved({signMargin, signMargin, signMargin, signMargin}), row.edge, style);
+    const auto ends = [](int length) {
+        constexpr int free = signMargin / 2;
+        return std::vector<Run>{{0, free}, {length - free, free}};
+    };
+    return addGuides(canvas.finish(), {ends(row.width), ends(row.height), QRect(QPoint(), size)});
+}
+
+QImage draw(const PanelRow& row, const Generation& generation) {
+    const ControlStyle& style = styleOf(generation);
     switch (row.shape) {
-    case PanelShape::filled:
-    case PanelShape::rounded:
-        break;
-    case PanelShape::raised:
-        guides = evenGuides(size, row.radius + shadowDepth, row.padding);
-        break;
-    case PanelShape::overlined:
-        guides.stretchDown = {{lineWidth, row.height - lineWidth}};
-        break;
-    case PanelShape::dropDown:
-        guides.stretchAcross = {{0, row.width - triangleSide}};
-        guides.stretchDown = {{0, row.height - triangleSide - 2 * lineWidth}};
-        break;
+    case PanelShape::plain:
+        return drawPlain(row);
+    case PanelShape::box:
+        return drawBox(row, generation);
+    case PanelShape::topBox:
+        return drawTopBox(row, generation);
+    case PanelShape::header:
+        return drawHeader(row, generation);
     case PanelShape::underlined:
-        guides.stretchDown = {{0, row.height - lineWidth}};
-        break;
+    case PanelShape::overlined:
+        return drawLined(row, style);
+    case PanelShape::dropDown:
+        return drawDropDown(row, style);
     case PanelShape::receivedBubble:
-    case PanelShape::sentBubble: {
-        const int left = row.shape == PanelShape::receivedBubble ? tailWidth : 0;
-        guides.stretchAcross = {{left + row.radius, row.width - tailWidth - 2 * row.radius}};
-        guides.stretchDown = {{row.radius, row.height - 2 * row.radius - 12}};
-        guides.content.adjust(left, 0, left - tailWidth, 0);
-        break;
+        return drawBubble(row, generation, false);
+    case PanelShape::sentBubble:
+        return drawBubble(row, generation, true);
+    case PanelShape::bar:
+        return drawBar(row, generation);
+    case PanelShape::loneSign:
+        return drawLoneSign(row, style);
     }
-    case PanelShape::sign: {
-        constexpr int margin = 6;
-        guides.stretchAcross = {{0, margin}, {row.width - margin, margin}};
-        guides.stretchDown = {{0, margin}, {row.height - margin, margin}};
-        break;
-    }
-    }
-    return guides;
+    return {};
 }
 
 } // namespace
 
-QImage drawPanel(std::string_view name, const Generation&) {
+QImage drawPanel(std::string_view name, const Generation& generation) {
     const auto* row =
         std::find_if(panelTable.begin(), panelTable.end(), [&](const auto& each) { return each.name == name; });
-    if (row == panelTable.end())
-        return {};
-    Canvas canvas(QSize(row->width, row->height));
-    drawShape(canvas.painter(), canvas.area(), *row);
-    return addGuides(canvas.finish(), guidesOf(*row));
+    return row == panelTable.end() ? QImage() : draw(*row, generation);
 }
 
 } // namespace zdt::assets

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "assets/art/generation.h"
+#include "assets/icons/relief.h"
 
 #include <QImage>
 #include <QRectF>
@@ -11,15 +12,17 @@ class QPainter;
 
 namespace zdt::assets {
 
-/// Draws an application's icon: a rounded square in a hue of its own, which follows from the name, with a glyph that
-/// words in the name choose.
-void paintIcon(QPainter& painter, std::string_view name, const QRectF& area);
+/// A sign's pieces with their optical centre in the middle, as large as signs are in a language.
+[[nodiscard]] Pieces onGrid(const Pieces& pieces, Language language);
 
-/// A picture of the icons' directory: an application's icon, the frame or the mask of any other icon, or a background
-/// of an icon that moves.
+/// The sign of an application's icon, as large as it stands on the tile; empty for a name that the table doesn't hold.
+[[nodiscard]] Pieces signOf(std::string_view name, const Generation& generation);
+
+/// A picture of the icons' directory: an application's icon, the border or the mask of any other icon, or a background
+/// of an icon that moves. Null for another name.
 [[nodiscard]] QImage drawIcon(std::string_view name, QSize size, const Generation& generation);
 
-/// The rounded square that all icons fill, in a picture of 192 pixels.
-void paintTile(QPainter& painter, const QRectF& area, const QColor& top, const QColor& bottom);
+/// Draws an icon on other pictures.
+void paintIcon(QPainter& painter, std::string_view name, const QRectF& area, const Generation& generation);
 
 } // namespace zdt::assets

@@ -15,7 +15,7 @@ namespace zdt::assets {
 /// doesn't hold.
 [[nodiscard]] QImage drawWeather(std::string_view name, QSize size, const Generation& generation);
 
-/// Draws the sun behind a cloud, as the weather of previews.
-void paintSunnyCloud(QPainter& painter, const QRectF& area);
+/// Draws the sun behind a cloud, without a sky.
+void paintSunnyCloud(QPainter& painter, const QRectF& area, const Generation& generation);
 
 } // namespace zdt::assets

@@ -1,94 +1,107 @@
 #include "assets/lock/lockPictures.h"
 
-#include "assets/art/digits.h"
-#include "assets/art/glyphs.h"
-#include "assets/art/picture.h"
-#include "assets/art/shapes.h"
+#include "assets/lock/chargePictures.h"
+#include "assets/lock/lockControls.h"
+#include "assets/lock/lockDigits.h"
+#include "assets/lock/lockParts.h"
+#include "canvas/screens/screenIcons.h"
 
 namespace zdt::assets {
 
 namespace {
 
-/// The widths of the clocks' lines; the slide lock's clock is half as large again.
-constexpr double lockLine = 5;
-constexpr double slideLine = 6;
+constexpr const char* designedFolder = "unlock_amazing/drawable-hdpi/";
+/// A theme merges both folders, so that the slide lock's names are of their own.
+constexpr const char* slidePrefix = "unlock_slide/drawable-hdpi/slide_";
 
-QSize sizeOf(const Cell& cell) {
-    return {cell.width, cell.height};
-}
+using Draw = QImage (*)(const std::string& name, const Generation& generation);
 
 /// The digit stands in front of ".png".
 int digitOf(const std::string& name) {
     return name[name.size() - 5] - '0';
 }
 
-QImage digitPicture(int digit, const Cell& cell, double lineWidth) {
-    Canvas canvas(sizeOf(cell));
-    drawDigit(canvas.painter(), digit, canvas.area(), palette::ink, lineWidth);
-    return canvas.finish();
+QImage drawDigit(const std::string& name, const Generation& generation) {
+    return drawClockDigit(digitOf(name), sizeOf(lockDigit), generation);
 }
 
-QImage colonPicture(const Cell& cell, double lineWidth) {
-    Canvas canvas(sizeOf(cell));
-    drawColon(canvas.painter(), canvas.area(), palette::ink, lineWidth * 0.9);
-    return canvas.finish();
+QImage drawColon(const std::string&, const Generation& generation) {
+    return drawClockColon(sizeOf(lockColon), generation);
 }
 
-QImage drawLockDigit(const std::string& name, const Generation&) {
-    return digitPicture(digitOf(name), lockDigit, lockLine);
+QImage drawChargeOf(const std::string& name, const Generation& generation) {
+    return drawCharge(digitOf(name), generation);
 }
 
-QImage drawSlideDigit(const std::string& name, const Generation&) {
-    return digitPicture(digitOf(name), slideDigit, slideLine);
+template <Notice notice>
+QImage drawNotice(const std::string&, const Generation& generation) {
+    return drawNoticeCard(notice, generation);
 }
 
-QImage drawLockColon(const std::string&, const Generation&) {
-    return colonPicture(lockColon, lockLine);
+template <char32_t sign, bool isPressed>
+QImage drawSkip(const std::string&, const Generation& generation) {
+    return drawMusicSkip(sign, isPressed, generation);
 }
 
-QImage drawSlideColon(const std::string&, const Generation&) {
-    return colonPicture(slideColon, slideLine);
+template <char32_t sign>
+QImage drawPlay(const std::string&, const Generation& generation) {
+    return drawMusicPlay(sign, generation);
 }
 
-QImage drawLockArrow(const std::string&, const Generation&) {
-    Canvas canvas(sizeOf(lockArrow));
-    drawGlyph(canvas.painter(), Glyph::chevronUp, canvas.area().translated(0, -16), palette::inkSoft, 0.6);
-    drawGlyph(canvas.painter(), Glyph::chevronUp, canvas.area().translated(0, 16), palette::ink, 0.6);
-    return canvas.finish();
+/// A drawing that doesn't depend on its name.
+template <QImage (*draw)(const Generation&)>
+QImage drawPlain(const std::string&, const Generation& generation) {
+    return draw(generation);
 }
 
-QImage drawSlideTrack(const std::string&, const Generation&) {
-    Canvas canvas(sizeOf(slideTrack));
-    const QRectF area = canvas.area();
-    drawRounded(canvas.painter(), area, area.height() / 2, 0x80ffffff, palette::paper, 3);
-    for (int mark = 0; mark < 3; ++mark)
-        drawGlyph(canvas.painter(), Glyph::chevronRight,
-                  QRectF(area.center().x() + (mark - 1) * 60 - 28, area.center().y() - 28, 56, 56), palette::inkFaint);
-    return canvas.finish();
-}
+struct Row {
+    const char* name;
+    Draw draw;
+};
 
-QImage drawSlideKnob(const std::string&, const Generation&) {
-    Canvas canvas(sizeOf(slideKnob));
-    const QPointF middle = canvas.area().center();
-    drawDisc(canvas.painter(), middle, 60, palette::accent);
-    drawGlyph(canvas.painter(), Glyph::chevronRight, QRectF(middle.x() - 32, middle.y() - 32, 64, 64), palette::paper);
-    return canvas.finish();
-}
+/// In the folders of both locks.
+constexpr Row common[]{
+    {"colon.png", drawColon},
+    {"card_message.png", drawNotice<Notice::message>},
+    {"card_call.png", drawNotice<Notice::missedCall>},
+};
+
+constexpr Row designed[]{
+    {"unlock_arrow.png", drawPlain<drawLockArrow>},         {"music_bg.png", drawPlain<drawMusicPanel>},
+    {"music_pre.png", drawSkip<sign::skipPrevious, false>}, {"music_pre_press.png", drawSkip<sign::skipPrevious, true>},
+    {"music_play.png", drawPlay<sign::playArrow>},          {"music_pause.png", drawPlay<sign::pause>},
+    {"music_next.png", drawSkip<sign::skipNext, false>},    {"music_next_press.png", drawSkip<sign::skipNext, true>},
+};
+
+constexpr Row slide[]{
+    {"track.png", drawPlain<drawSlideTrack>},
+    {"knob.png", drawPlain<drawSlideKnob>},
+};
 
 } // namespace
 
-std::vector<LockPicture> lockPictures(const Generation&) {
-    const std::string designed = "unlock_amazing/drawable-hdpi/";
-    const std::string slide = "unlock_slide/drawable-hdpi/slide_";
-    std::vector<LockPicture> pictures{{designed + "colon.png", drawLockColon},
-                                      {designed + "unlock_arrow.png", drawLockArrow},
-                                      {slide + "colon.png", drawSlideColon},
-                                      {slide + "track.png", drawSlideTrack},
-                                      {slide + "knob.png", drawSlideKnob}};
+std::vector<LockPicture> lockPictures(const Generation& generation) {
+    std::vector<LockPicture> pictures;
+    const auto add = [&](const char* folder, const std::string& name, Draw draw) {
+        pictures.push_back({folder + name, draw});
+    };
+    for (const Row& row : common) {
+        add(designedFolder, row.name, row.draw);
+        add(slidePrefix, row.name, row.draw);
+    }
+    if (hasFootCards(lookOf(generation.language))) {
+        add(designedFolder, "card_foot.png", drawPlain<drawFootCard>);
+        add(slidePrefix, "card_foot.png", drawPlain<drawFootCard>);
+    }
+    for (const Row& row : designed)
+        add(designedFolder, row.name, row.draw);
+    for (const Row& row : slide)
+        add(slidePrefix, row.name, row.draw);
     for (int digit = 0; digit < 10; ++digit) {
-        const std::string ending = "number_" + std::to_string(digit) + ".png";
-        pictures.push_back({designed + ending, drawLockDigit});
-        pictures.push_back({slide + ending, drawSlideDigit});
+        const std::string ending = std::to_string(digit) + ".png";
+        add(designedFolder, "number_" + ending, drawDigit);
+        add(slidePrefix, "number_" + ending, drawDigit);
+        add(designedFolder, "charge_" + ending, drawChargeOf);
     }
     return pictures;
 }

@@ -1,12 +1,16 @@
+#include "assets/lock/lockScene.h"
+#include "assets/lock/statusBar.h"
 #include "assets/templateTheme.h"
-#include "lockscreen/amazingElements.h"
 #include "lockscreen/amazingUnlockNode.h"
 #include "lockscreen/expression.h"
-#include "lockscreen/layoutDocument.h"
+#include "lockscreen/lockDesign.h"
 #include "lockscreen/unlockConfigNode.h"
+#include "model/fileResNode.h"
 #include "support/files.h"
 
 #include <gtest/gtest.h>
+
+#include <QRect>
 
 #include <algorithm>
 
@@ -15,12 +19,18 @@ namespace zdt::test {
 namespace {
 
 constexpr const char* heightVariable = "system.screen_height";
+constexpr int lowHeight = screenHeight;
+constexpr int highHeight = tallScreenHeight;
 
 class LockScreens : public testing::TestWithParam<unsigned> {
 protected:
     [[nodiscard]] std::string path(const std::string& below) const { return templatePath(GetParam()) + below; }
     [[nodiscard]] bool isGeneration5() const { return GetParam() == 0; }
-    /// The layouts of a folder, without ".xml".
+    /// Those that the generation's design is laid out for: the tall one's cover is 1920 high.
+    [[nodiscard]] std::vector<int> heights() const {
+        return GetParam() == 2 ? std::vector{lowHeight, highHeight} : std::vector{lowHeight};
+    }
+    /// The layouts of both locks, without ".xml".
     [[nodiscard]] std::vector<std::string> designs() const {
         return {path("unlock_amazing/layout-hdpi/layout1"), path("unlock_slide/layout-hdpi/layout_slide")};
     }
@@ -47,6 +57,64 @@ std::int32_t valueAt(std::string place, int height) {
     if (const std::size_t start = place.find(heightVariable); start != std::string::npos)
         place.replace(start, std::string_view(heightVariable).size(), std::to_string(height));
     return calculate(place);
+}
+
+LockDesign read(const std::string& path, int height) {
+    LayoutElements elements;
+    EXPECT_TRUE(readLayout(path + ".xml", elements)) << path;
+    return LockDesign(std::move(elements), static_cast<std::uint32_t>(height));
+}
+
+/// What the phone paints at a place.
+struct Part {
+    std::string src;
+    std::string visible;
+    QRect place;
+};
+
+/// The pictures and texts that a scene shows; of the music control, its ground and the buttons on it.
+std::vector<Part> visibleParts(const LockDesign& design, const assets::LockScene& scene) {
+    std::vector<Part> parts;
+    const auto add = [&](const AmazingChild& element, const ElementPath& path, const std::string& visible) {
+        const auto value = [&](std::string_view variable) { return assets::valueOf(scene, variable); };
+        const std::optional<DesignRect> rect = design.rectOf(path);
+        ASSERT_TRUE(rect) << element.src();
+        if (evaluateCondition(visible, value).value())
+            parts.push_back({element.src() + element.attribute("name"), visible,
+                             QRect(rect->x, rect->y, rect->width, rect->height)});
+    };
+    for (std::size_t index = 0; index < design.elements().size(); ++index) {
+        const AmazingChild& element = *design.elements()[index];
+        if (!element.src().empty())
+            add(element, {index}, element.attribute("visible"));
+        for (std::size_t child = 0; &element == design.musicControl() && child < element.children().size(); ++child)
+            add(*element.children()[child], {index, child}, std::string(layoutDefaults::musicVisible));
+    }
+    return parts;
+}
+
+void expectOnScreen(const std::vector<Part>& parts, int height) {
+    const QRect screen(0, 0, 1080, height);
+    const QRect belowStatusBar = screen.adjusted(0, assets::statusBarHeight, 0, 0);
+    /// Where the phone's finger sensor lies.
+    const QRect sensor(421, height - 942, 240, 360);
+    EXPECT_GT(parts.size(), 10U);
+    for (const Part& part : parts) {
+        EXPECT_TRUE(belowStatusBar.contains(part.place)) << part.src;
+        EXPECT_FALSE(sensor.intersects(part.place)) << part.src;
+    }
+}
+
+/// A part may lie on another as its ground, if both show at the same times.
+void expectApart(const std::vector<Part>& parts) {
+    for (std::size_t upper = 0; upper < parts.size(); ++upper) {
+        for (std::size_t lower = 0; lower < upper; ++lower) {
+            const Part& one = parts[lower];
+            const Part& other = parts[upper];
+            const bool isGround = one.visible == other.visible && one.place.contains(other.place);
+            EXPECT_TRUE(isGround || !one.place.intersects(other.place)) << one.src << " and " << other.src;
+        }
+    }
 }
 
 } // namespace
@@ -97,20 +165,48 @@ TEST_P(LockScreens, UnlockByAMoveToAnotherPlace) {
     }
 }
 
-TEST_P(LockScreens, ShowAClockThatIsToldFromDecorations) {
-    LayoutElements elements;
-    ASSERT_TRUE(readLayout(designs().front() + ".xml", elements));
-    std::vector<std::string> sources;
-    for (const auto& element : elements) {
-        if (element->name() == "image" && element->attribute("y") == "208")
-            sources.push_back(element->src());
+TEST_P(LockScreens, AreReadAsTheirParts) {
+    for (const std::string& path : designs()) {
+        SCOPED_TRACE(path);
+        const LockDesign design = read(path, lowHeight);
+        constexpr unsigned wholeClock = 31;
+        EXPECT_EQ(design.clockBits(), wholeClock);
+        EXPECT_EQ(design.unlockMode(), static_cast<int>(UnlockerKind::moving));
+        for (const layoutDefaults::Text& text : layoutDefaults::texts)
+            EXPECT_TRUE(design.text(std::string(text.src))) << text.src;
+        const bool isDesigned = path == designs().front();
+        for (std::size_t index = 0; index < chargeConditions.size(); ++index) {
+            const Decoration* picture = design.chargePicture(index);
+            EXPECT_EQ(picture ? picture->src() : "", isDesigned ? "charge_" + std::to_string(index) + ".png" : "");
+        }
+        if (!isDesigned)
+            continue;
+        EXPECT_TRUE(design.musicButton(MusicButton::show) && design.musicButton(MusicButton::hide));
+        const AmazingChild* music = design.musicControl();
+        ASSERT_TRUE(music);
+        EXPECT_EQ(std::ranges::count(music->children(), "button", [](const auto& part) { return part->name(); }), 3);
     }
-    const std::vector<std::string> clock{"'number_'+system.time.hour1+'.png'", "'number_'+system.time.hour2+'.png'",
-                                         "colon.png", "'number_'+system.time.min1+'.png'",
-                                         "'number_'+system.time.min2+'.png'"};
-    EXPECT_EQ(sources, clock);
-    EXPECT_EQ(std::count_if(elements.begin(), elements.end(), [](const auto& each) { return each->name() == "text"; }),
-              6);
+}
+
+TEST_P(LockScreens, KeepTheirPartsApartAndOnTheScreen) {
+    assets::LockScene busy;
+    busy.amPm = "AM";
+    busy.messages = busy.calls = 1;
+    busy.showsMusic = true;
+    assets::LockScene charging = busy;
+    charging.isCharging = true;
+    assets::LockScene quiet = charging;
+    quiet.showsMusic = false;
+    for (const std::string& path : designs()) {
+        for (const int height : heights()) {
+            for (const assets::LockScene& scene : {busy, charging, quiet}) {
+                SCOPED_TRACE(path + " " + std::to_string(height));
+                const std::vector<Part> parts = visibleParts(read(path, height), scene);
+                expectOnScreen(parts, height);
+                expectApart(parts);
+            }
+        }
+    }
 }
 
 TEST_P(LockScreens, HaveAFormForAFixedHeightInGeneration5Alone) {
