@@ -5,6 +5,8 @@
 #include "canvas/screens/screenIcons.h"
 #include "kit/tokens.h"
 
+#include <numbers>
+
 namespace zdt::assets {
 
 namespace {
@@ -23,6 +25,22 @@ void drawPlus(QPainter& painter, const QRectF& area, double length, QColor colou
     const QPointF middle = area.center();
     painter.fillRect(QRectF(middle.x() - length / 2, middle.y() - weight / 2, length, weight), colour);
     painter.fillRect(QRectF(middle.x() - weight / 2, middle.y() - length / 2, weight, length), colour);
+}
+
+/// With a dash on the middle of each corner of a square.
+void drawDashedEdge(QPainter& painter, const QRectF& area) {
+    constexpr double radius = token::radiusField - 0.5;
+    constexpr double corner = radius * std::numbers::pi / 2;
+    constexpr int dashes = 8;
+    constexpr double dash = 0.56;
+    const double period = (area.width() - 1 - 2 * radius + corner) / dashes;
+    QPen pen(token::fieldBorderHover, 1, Qt::CustomDashLine, Qt::FlatCap);
+    pen.setDashPattern({period * dash, period * (1 - dash)});
+    // The line begins with a corner.
+    pen.setDashOffset((period * dash - corner) / 2 + period);
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 }
 
 void drawRow(QPainter& painter, const QRectF& area, char32_t sign) {
@@ -56,14 +74,9 @@ void paintChecked(QPainter& painter, const QRectF& area) {
 }
 
 void paintAddCell(QPainter& painter, const QRectF& area) {
-    drawRounded(painter, area, token::radiusField, token::bar.rgba());
-    QPen pen(token::fieldBorder, 1, Qt::CustomDashLine, Qt::FlatCap);
-    pen.setDashPattern({4, 3});
-    painter.setPen(pen);
-    painter.setBrush(Qt::NoBrush);
-    const double radius = token::radiusField - 0.5;
-    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     constexpr double length = 20;
+    drawRounded(painter, area, token::radiusField, token::bar.rgba());
+    drawDashedEdge(painter, area);
     drawPlus(painter, area, length, token::iconPlain);
 }
 

@@ -1,5 +1,6 @@
 #include "assets/skin/musicPictures.h"
 
+#include "assets/art/palette.h"
 #include "assets/art/picture.h"
 #include "assets/skin/phoneInk.h"
 
@@ -13,12 +14,13 @@ QRectF squareAround(QPointF middle, double side) {
     return {middle.x() - side / 2, middle.y() - side / 2, side, side};
 }
 
-void drawSolid(PhoneInk& ink, QPointF middle, char32_t sign) {
+void drawSolid(QPainter& painter, PhoneInk& ink, QPointF middle, char32_t sign) {
     constexpr double discSide = 106; ///< Leaves room for the shadow.
     constexpr double signSide = 76;
     QPainterPath disc;
     disc.addEllipse(squareAround(middle, discSide));
-    ink.fill(disc.subtracted(signOutline(sign, squareAround(middle, signSide))), 0.94);
+    ink.fill(disc, 0.94);
+    painter.fillPath(signOutline(sign, squareAround(middle, signSide)), palette::colour(palette::ink));
 }
 
 } // namespace
@@ -42,7 +44,7 @@ QImage drawMusicPicture(const MusicPicture& picture) {
         ink.sign(picture.sign, middle, signSide);
         break;
     case MusicFace::solid:
-        drawSolid(ink, middle, picture.sign);
+        drawSolid(canvas.painter(), ink, middle, picture.sign);
         break;
     }
     return canvas.finish();

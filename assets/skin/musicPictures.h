@@ -14,7 +14,7 @@ enum class MusicFace {
     ground,  ///< Glass, without a sign.
     bare,    ///< A sign alone.
     pressed, ///< The same on a disc of glass.
-    solid,   ///< A white disc from which the sign is cut out.
+    solid,   ///< A dark sign on a white disc.
 };
 
 struct MusicPicture {

@@ -4,16 +4,18 @@
 
 #include <QPainter>
 
+#include <cmath>
+
 namespace zdt::assets {
 
 namespace {
 
-/// A blurred outline: strokes that grow, each a little darker where it lies over the others.
+/// A blurred outline: strokes that grow by a pixel, each a little darker where it lies over the others.
 void drawShadow(QPainter& painter, const QPainterPath& shape, double strength, double reach) {
-    constexpr int strokes = 5;
-    constexpr double stroke = 0.05;
+    constexpr double darkest = 0.25;
+    const int strokes = static_cast<int>(std::ceil(reach));
     QColor shadow(Qt::black);
-    shadow.setAlphaF(static_cast<float>(stroke * strength));
+    shadow.setAlphaF(static_cast<float>(darkest * strength / strokes));
     for (int each = 1; each <= strokes; ++each) {
         const QPen pen(shadow, 2 * reach * each / strokes, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
         painter.strokePath(shape.translated(0, reach / 4), pen);
