@@ -42,7 +42,7 @@ QPointF onCircle(QPointF middle, double radius, double part) {
 void drawLight(QPainter& painter, QPointF middle, double fill) {
     constexpr double radius = 112;
     constexpr double line = 11;
-    const QPainterPath track = disc(middle, radius);
+    const QPainterPath track = discOutline(middle, radius);
     const QPainterPath light = arc(middle, radius, 0, fill);
     // Its seam lies a little before the top, behind the round start of the light.
     QConicalGradient hues(middle, quarter + 5);
@@ -60,8 +60,8 @@ void drawLight(QPainter& painter, QPointF middle, double fill) {
     painter.strokePath(light, roundPen(hues, line));
     if (fill < 1) {
         const QPointF head = onCircle(middle, radius, fill);
-        drawGlow(painter, disc(head, 4), 0xb0c8fff0, 16);
-        painter.fillPath(disc(head, 6.5), Qt::white);
+        drawGlow(painter, discOutline(head, 4), 0xb0c8fff0, 16);
+        painter.fillPath(discOutline(head, 6.5), Qt::white);
     }
     QRadialGradient shine(middle, 66);
     shine.setColorAt(0, palette::colour(0x6658e8d0));
@@ -87,10 +87,10 @@ void drawSunrise(QPainter& painter, QPointF middle, double fill) {
     constexpr double lineRadius = 115;
     constexpr double line = 11;
     constexpr double rim = lineRadius + line + 2;
-    const QPainterPath window = disc(middle, radius);
+    const QPainterPath window = discOutline(middle, radius);
     const QRectF area = window.boundingRect();
-    drawGlow(painter, disc(middle + QPointF(0, 4), rim), 0x805a2412, 9);
-    painter.fillPath(disc(middle, rim), downwards(squareAt(middle, 2 * rim), 0xfffffaf0, 0xfff7e5cb));
+    drawGlow(painter, discOutline(middle + QPointF(0, 4), rim), 0x805a2412, 9);
+    painter.fillPath(discOutline(middle, rim), downwards(squareAt(middle, 2 * rim), 0xfffffaf0, 0xfff7e5cb));
     painter.save();
     painter.setClipPath(window);
     painter.fillRect(area, downwards(area, 0xffffe3c2, 0xffffb98c));
@@ -99,7 +99,7 @@ void drawSunrise(QPainter& painter, QPointF middle, double fill) {
     halo.setColorAt(0, palette::colour(0xd0fff4d6));
     halo.setColorAt(1, palette::colour(0x00fff4d6));
     painter.fillRect(area, halo);
-    const QPainterPath sunDisc = disc(sun, 46);
+    const QPainterPath sunDisc = discOutline(sun, 46);
     painter.fillPath(sunDisc, downwards(sunDisc.boundingRect(), 0xffffc24a, 0xfff0893a));
     painter.fillPath(signOutline(sign::bolt, squareAt(sun, 58)), palette::colour(0xfffff6e8));
     painter.fillPath(duneRidge(area, middle.y() + 44, middle.y() + 30, middle.y() + 58),
@@ -107,7 +107,7 @@ void drawSunrise(QPainter& painter, QPointF middle, double fill) {
     painter.fillPath(duneRidge(area.adjusted(-70, 0, 40, 0), middle.y() + 50, middle.y() + 74, middle.y() + 52),
                      downwards(area.adjusted(0, area.height() * 0.7, 0, 0), 0xffb9552f, 0xff8f3f27));
     painter.restore();
-    painter.strokePath(disc(middle, lineRadius), QPen(palette::colour(0xffecd3b3), line));
+    painter.strokePath(discOutline(middle, lineRadius), QPen(palette::colour(0xffecd3b3), line));
     painter.strokePath(arc(middle, lineRadius, 0, fill), roundPen(palette::colour(0xffc05a32), line));
 }
 
@@ -129,8 +129,8 @@ void drawPapers(QPainter& painter, QPointF middle, int index) {
     constexpr std::array<QRgb, levels> colours{0xffd9603f, 0xffe07f3c, 0xffe5a335, 0xffd3ab34, 0xffa9a83c,
                                                0xff7fa04a, 0xff56975a, 0xff358c6c, 0xff248277, 0xff1c7075};
     const QPointF shade(5, 8);
-    painter.fillPath(disc(middle + shade, 128), QColor(10, 50, 50, 50));
-    painter.fillPath(disc(middle, 128), palette::colour(0xfffffdf6));
+    painter.fillPath(discOutline(middle + shade, 128), QColor(10, 50, 50, 50));
+    painter.fillPath(discOutline(middle, 128), palette::colour(0xfffffdf6));
     for (int part = 0; part < levels; ++part) {
         const QPainterPath sheet = paperPart(middle, part);
         const bool isFull = part <= index;
@@ -138,7 +138,7 @@ void drawPapers(QPainter& painter, QPointF middle, int index) {
             painter.fillPath(sheet.translated(3, 4), QColor(10, 50, 50, 46));
         painter.fillPath(sheet, palette::colour(isFull ? colours[static_cast<std::size_t>(part)] : 0xffe9e6d8));
     }
-    const QPainterPath core = disc(middle, 60);
+    const QPainterPath core = discOutline(middle, 60);
     const QPainterPath bolt = signOutline(sign::bolt, squareAt(middle, 84));
     painter.fillPath(core, palette::colour(0xff1f7f7a));
     drawLongShadow(painter, bolt, core, 0xff196863);

@@ -103,7 +103,7 @@ QImage drawMusicSkip(char32_t sign, bool isPressed, const Generation& generation
     const LockLook& look = lookOf(generation.language);
     const QPointF middle = canvas.area().center();
     if (isPressed)
-        canvas.painter().fillPath(disc(middle, 50), palette::colour((look.cardInk & 0xffffff) | 0x26000000));
+        canvas.painter().fillPath(discOutline(middle, 50), palette::colour((look.cardInk & 0xffffff) | 0x26000000));
     drawSign(canvas.painter(), sign, middle, 80, look.cardInk);
     return canvas.finish();
 }

@@ -36,7 +36,7 @@ QRectF squareAt(QPointF middle, double side) {
     return {middle.x() - side / 2, middle.y() - side / 2, side, side};
 }
 
-QPainterPath disc(QPointF middle, double radius) {
+QPainterPath discOutline(QPointF middle, double radius) {
     QPainterPath path;
     path.addEllipse(middle, radius, radius);
     return path;

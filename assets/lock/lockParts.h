@@ -15,7 +15,7 @@ namespace zdt::assets {
 }
 
 [[nodiscard]] QRectF squareAt(QPointF middle, double side);
-[[nodiscard]] QPainterPath disc(QPointF middle, double radius);
+[[nodiscard]] QPainterPath discOutline(QPointF middle, double radius);
 [[nodiscard]] QPainterPath roundedPath(const QRectF& area, double radius);
 /// An angle with its point upwards.
 [[nodiscard]] QPainterPath chevronUp(QPointF point, double halfWidth, double height);

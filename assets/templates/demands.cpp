@@ -23,8 +23,12 @@ void admitOverseasPictures(ThemeNode& theme, const Generation& generation) {
     }
 }
 
-bool isPicture(const FileResNode& file) {
-    return (file.allowedKinds() & (fileKind::png | fileKind::jpeg)) != 0 && file.name() != tables::optionalIcon;
+/// Previews are made of all other pictures, once these stand.
+constexpr std::string_view previewDirectory = "preview/";
+
+bool isDrawnHere(const FileResNode& file) {
+    return (file.allowedKinds() & (fileKind::png | fileKind::jpeg)) != 0 && file.name() != tables::optionalIcon &&
+           file.path() != previewDirectory;
 }
 
 Demand demandOf(const FileResNode& file) {
@@ -49,7 +53,7 @@ std::vector<Demand> collectDemands(const Generation& generation) {
             admitOverseasPictures(theme, generation);
         for (const ResNode* node : theme.collectApplicableNodes({})) {
             const auto* file = dynamic_cast<const FileResNode*>(node);
-            if (file && isPicture(*file))
+            if (file && isDrawnHere(*file))
                 demands.emplace(file->path() + file->name(), demandOf(*file));
         }
     }

@@ -5,7 +5,6 @@
 #include "assets/controls/symbols.h"
 #include "assets/icons/iconPictures.h"
 #include "assets/icons/weather.h"
-#include "assets/previews/previews.h"
 #include "assets/wallpapers/wallpapers.h"
 #include "modules/iconsNode.h"
 #include "modules/tables/pictureRow.h"
@@ -16,8 +15,6 @@ QImage draw(const Demand& demand, const Generation& generation) {
     const std::string_view directory = demand.directory;
     if (directory.starts_with("wallpaper/"))
         return drawWallpaper(demand.name, demand.size, generation);
-    if (directory.starts_with("preview/"))
-        return drawPreview(demand.name, demand.size, generation);
     if (directory.starts_with(dynamicIconsDirectory) && directory.ends_with(std::string(weatherPackage) + "/"))
         return drawWeather(demand.name, demand.size, generation);
     if (directory.starts_with(iconsDirectory))

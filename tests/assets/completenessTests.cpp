@@ -46,7 +46,8 @@ Names writtenKeys(const std::string& path) {
 std::set<std::string> usedFiles(unsigned generation) {
     std::set<std::string> used{std::string(descriptionFile)};
     for (const TypeMask mask : themeKinds(generation)) {
-        const auto theme = makeTree(mask, "");
+        // The directory tells of further previews; previewTests.cpp looks at their names.
+        const auto theme = makeTree(mask, templatePath(generation));
         for (const ResNode* node : theme->collectApplicableNodes({})) {
             if (const auto* file = dynamic_cast<const FileResNode*>(node))
                 used.insert(file->path() + file->name());

@@ -44,7 +44,8 @@ TEST(TemplateWriter, GivesTheSameBytesAsTheBuildAndLeavesNothingStale) {
     ASSERT_TRUE(assets::writeTemplates(folder.path(), std::span(&assets::generations[generation], 1)));
     const std::string again = folder.path(templateDirectory(generation));
     const std::string built = templatePath(generation);
-    const std::set<std::string> files = filesBelow(built);
+    std::set<std::string> files = filesBelow(built);
+    std::erase_if(files, [](const std::string& file) { return file.starts_with("preview/"); });
     EXPECT_EQ(filesBelow(again), files);
     for (const std::string& file : files)
         EXPECT_TRUE(readFile(again + file) == readFile(built + file)) << file;

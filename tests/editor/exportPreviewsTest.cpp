@@ -59,6 +59,11 @@ TEST_F(ExportPreviewsTest, RefusedPicturesLeaveWhatWasThere) {
 TEST_F(ExportPreviewsTest, SparePictureOfTheContactsComesAndGoes) {
     openGood();
     const QString name = "preview_contacts_2.jpg";
+    EXPECT_TRUE(find<QLabel>("previewsReady").text().startsWith("11/11"));
+    for (const char* more : {"preview_contacts_1.jpg", "preview_contacts_2.jpg"})
+        ASSERT_EQ(bench.theme()->deletePreview(bench.theme()->getValue({"preview"}, more)), 0);
+    page->open();
+    page->previews().finish();
     EXPECT_EQ(find<QPushButton>("replace_" + name).text(), Text("file_load"));
     EXPECT_TRUE(find<QLabel>("previewsReady").text().startsWith("9/9"))
         << find<QLabel>("previewsReady").text().toStdString();

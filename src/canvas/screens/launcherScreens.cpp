@@ -124,7 +124,8 @@ Screen homeScreen() {
     screen.statusBar(white);
     addEditBar(screen);
     screen.text("clock", {48, 438, 984}, {"08:08", "08:08"}, {204, 300, TextAlign::centre}, white);
-    screen.text("date", {48, 573, 984}, {"Tuesday, 14 May", "5 月 14 日 星期二"}, {45, 400, TextAlign::centre}, white);
+    screen.text("date", {48, 573, 984}, {"Thursday, 12 October", "10 月 12 日 星期四"}, {45, 400, TextAlign::centre},
+                white);
     addHomeApps(screen, 810);
     addPageDots(screen, 1701, 4, 2, white);
     addDock(screen);
@@ -195,7 +196,8 @@ Screen simpleScreen() {
     screen.statusBar(onAnyGround);
     screen.card("time_tile", {60, 138, 960, 330}, 60, tile);
     screen.text("clock", {108, 261, 560}, {"08:08", "08:08"}, {186, 500}, tileText);
-    screen.text("date", {108, 402, 520}, {"Tuesday, 14 May", "5 月 14 日 星期二"}, {51, 400}, tileText.faded(170));
+    screen.text("date", {108, 402, 520}, {"Thursday, 12 October", "10 月 12 日 星期四"}, {51, 400},
+                tileText.faded(170));
     screen.icon("weather", {903, 261}, 144, sign::wbSunny, {{}, 0xfff5a623});
     screen.text("degrees", {624, 402, 348}, {"Fine, 24 °C", "晴 24 °C"}, {51, 400, TextAlign::right},
                 tileText.faded(170));

@@ -176,7 +176,7 @@ void trainTexts(ScreenBuilder& b, const std::string& name, const Ink& ink) {
     const Ink soft = ink.faded(170);
     b.icon(name + "_sign", {126, 426}, 60, sign::train, ink);
     b.text(name + "_title", {174, 426, 420}, {"Train ticket", "火车票"}, {42, 500}, ink);
-    b.text(name + "_date", {600, 426, 384}, {"Tuesday, 14 May", "5月14日 周二"}, noteRight, soft);
+    b.text(name + "_date", {600, 426, 384}, {"Thursday, 12 October", "10月12日 周四"}, noteRight, soft);
     journeyEnd(b, name + "_leave", {96, 522, 330}, TextAlign::left, {"Hangzhou", "杭州"}, {"07:42", "07:42"}, ink);
     journeyEnd(b, name + "_reach", {654, 522, 330}, TextAlign::right, {"Suzhou", "苏州"}, {"09:18", "09:18"}, ink);
     b.text(name + "_number", {430, 492, 220}, {"Train 482", "482 次"}, noteMiddle, soft);

@@ -47,7 +47,7 @@ void slider(ScreenBuilder& b, const std::string& name, const Place& track, int u
 
 void panelHead(ScreenBuilder& b) {
     b.text("clock", {screenMargin, 216, 480}, {"08:08", "08:08"}, {120, 400}, plain);
-    b.text("date", {screenMargin, 318, 560}, {"Tuesday, 14 May", "5月14日 星期二"}, {42}, soft);
+    b.text("date", {screenMargin, 318, 560}, {"Thursday, 12 October", "10月12日 星期四"}, {42}, soft);
     b.icon("head_edit", {852, 222}, 72, sign::edit, plain);
     b.icon("head_settings", {984, 222}, 72, sign::settings, plain);
 }
