@@ -27,8 +27,7 @@ void admitOverseasPictures(ThemeNode& theme, const Generation& generation) {
 constexpr std::string_view previewDirectory = "preview/";
 
 bool isDrawnHere(const FileResNode& file) {
-    return (file.allowedKinds() & (fileKind::png | fileKind::jpeg)) != 0 && file.name() != tables::optionalIcon &&
-           file.path() != previewDirectory;
+    return (file.allowedKinds() & (fileKind::png | fileKind::jpeg)) != 0 && file.path() != previewDirectory;
 }
 
 Demand demandOf(const FileResNode& file) {

@@ -19,7 +19,7 @@ using Names = std::vector<std::string>;
 class Templates : public testing::TestWithParam<unsigned> {};
 
 bool isNeeded(const FileResNode& file) {
-    return (file.allowedKinds() & (fileKind::png | fileKind::jpeg)) != 0 && file.name() != tables::optionalIcon;
+    return (file.allowedKinds() & (fileKind::png | fileKind::jpeg)) != 0;
 }
 
 Names applicableKeys(const ConfigResNode& block) {

@@ -31,11 +31,7 @@ protected:
         return read.convertToFormat(QImage::Format_ARGB32);
     }
 
-    [[nodiscard]] QImage icon(std::string_view name) const {
-        // No template holds the icon that a theme may do without.
-        return name == tables::optionalIcon ? assets::drawIcon(name, QSize(192, 192), generation())
-                                            : picture(std::string(name));
-    }
+    [[nodiscard]] QImage icon(std::string_view name) const { return picture(std::string(name)); }
 };
 
 int difference(QRgb one, QRgb other) {
