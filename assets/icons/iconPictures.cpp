@@ -98,11 +98,4 @@ QImage drawIcon(std::string_view name, QSize size, const Generation& generation)
     return paintNamed(canvas.painter(), name, generation) ? canvas.finish() : QImage();
 }
 
-void paintIcon(QPainter& painter, std::string_view name, const QRectF& area, const Generation& generation) {
-    painter.save();
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(area, drawIcon(name, QSize(iconSide, iconSide), generation));
-    painter.restore();
-}
-
 } // namespace zdt::assets

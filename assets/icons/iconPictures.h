@@ -4,11 +4,8 @@
 #include "assets/icons/relief.h"
 
 #include <QImage>
-#include <QRectF>
 
 #include <string_view>
-
-class QPainter;
 
 namespace zdt::assets {
 
@@ -21,8 +18,5 @@ namespace zdt::assets {
 /// A picture of the icons' directory: an application's icon, the border or the mask of any other icon, or a background
 /// of an icon that moves. Null for another name.
 [[nodiscard]] QImage drawIcon(std::string_view name, QSize size, const Generation& generation);
-
-/// Draws an icon on other pictures.
-void paintIcon(QPainter& painter, std::string_view name, const QRectF& area, const Generation& generation);
 
 } // namespace zdt::assets

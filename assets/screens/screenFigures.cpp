@@ -1,9 +1,7 @@
 #include "assets/screens/screenFigures.h"
 
-#include "assets/art/glyphs.h"
 #include "assets/art/palette.h"
 #include "assets/art/shapes.h"
-#include "assets/icons/iconPictures.h"
 
 #include <QPainter>
 #include <QPainterPath>
