@@ -82,8 +82,11 @@ constexpr const char* camelOutline =
 /// The highest row that the dunes in the middle distance reach in a column of the picture.
 float crestAt(float x) {
     float row = 1;
-    for (float z = 6; z < 14; z *= 1.002F)
+    constexpr int steps = 400;
+    for (int step = 0; step <= steps; ++step) {
+        const float z = mix(6.F, 14.F, static_cast<float>(step) / steps);
         row = std::min(row, dunes.screenY(z, duneHeight({x * z / dunes.focus, z})));
+    }
     return row;
 }
 

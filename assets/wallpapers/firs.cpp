@@ -1,5 +1,6 @@
 #include "assets/wallpapers/firs.h"
 
+#include "assets/wallpapers/deepImage.h"
 #include "assets/wallpapers/noise.h"
 
 #include <QPolygonF>
@@ -43,12 +44,15 @@ float bankAt(const FirRow& row, float x, float half) {
 
 QPainterPath firOutline(const FirRow& row, float half) {
     QPolygonF bank{{-half - 0.01, 1.1}};
-    for (float x = -half - 0.01F; x <= half + 0.01F; x += 0.004F)
+    constexpr int steps = 128;
+    for (int step = 0; step <= steps; ++step) {
+        const float x = mix(-half - 0.01F, half + 0.01F, static_cast<float>(step) / steps);
         bank << QPointF(x, bankAt(row, x, half));
+    }
     QPainterPath outline;
     outline.addPolygon(bank << QPointF(half + 0.01, 1.1));
-    std::uint32_t index = 0;
-    for (float x = -half - row.spacing; x < half + row.spacing; ++index) {
+    float x = -half - row.spacing;
+    for (std::uint32_t index = 0; x < half + row.spacing; ++index) {
         x += row.spacing * (0.35F + 1.3F * chance(index, 0, row.seed));
         const float edge = std::min(1.F, std::abs(x) / half);
         const float groups = 0.75F + 0.5F * noise(x * 11, 7.5F, row.seed);

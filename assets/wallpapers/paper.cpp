@@ -81,8 +81,11 @@ float topOf(const Hills& row, float x) {
 
 QPainterPath outlineOf(const Hills& row, float half) {
     QPolygonF outline{{-half - 0.05, 1.1}};
-    for (float x = -half - 0.05F; x <= half + 0.05F; x += 0.001F)
+    constexpr int steps = 640;
+    for (int step = 0; step <= steps; ++step) {
+        const float x = mix(-half - 0.05F, half + 0.05F, static_cast<float>(step) / steps);
         outline << QPointF(x, topOf(row, x));
+    }
     QPainterPath path;
     path.addPolygon(outline << QPointF(half + 0.05, 1.1));
     path.closeSubpath();

@@ -45,8 +45,11 @@ private:
 std::vector<float> distances(const Camera& camera, int rows) {
     const float finest = 0.9F / (camera.focus * std::max(camera.height, 1e-3F) * static_cast<float>(rows));
     std::vector<float> result;
-    for (float z = camera.nearest; z < camera.farthest; z += z * std::min(z * finest, camera.step))
+    float z = camera.nearest;
+    while (z < camera.farthest) {
         result.push_back(z);
+        z += z * std::min(z * finest, camera.step);
+    }
     return result;
 }
 
