@@ -3,8 +3,6 @@
 #include "assets/wallpapers/motifs.h"
 #include "modules/wallpaperNode.h"
 
-#include <QPainter>
-
 #include <array>
 
 namespace zdt::assets {
@@ -20,11 +18,6 @@ struct Motifs {
 constexpr std::array<Motifs, 3> motifs{{{paperLock, paperHome}, {duneLock, duneHome}, {auroraLock, auroraHome}}};
 
 } // namespace
-
-void paintWallpaper(QPainter& painter, const QRectF& area, const Generation& generation) {
-    constexpr double reduced = 0.25;
-    painter.drawImage(area, drawWallpaper(unlockWallpaper, (area.size() * reduced).toSize(), generation));
-}
 
 QImage drawWallpaper(std::string_view name, QSize size, const Generation& generation) {
     const Motifs& pair = motifs[static_cast<std::size_t>(generation.language)];

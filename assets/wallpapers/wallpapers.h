@@ -3,16 +3,10 @@
 #include "assets/art/generation.h"
 
 #include <QImage>
-#include <QRectF>
 
 #include <string_view>
 
-class QPainter;
-
 namespace zdt::assets {
-
-/// Fills `area` with the lock screen's wallpaper, less sharp than it is.
-void paintWallpaper(QPainter& painter, const QRectF& area, const Generation& generation);
 
 /// The wallpaper of the home screen or of the lock screen, by its name in the theme. On the first one white labels
 /// stand, anywhere; on the second one the upper third carries the generation's `lockInk`, and the foot light letters.
