@@ -9,11 +9,11 @@ packages=(
     fonts-inter fonts-jetbrains-mono fonts-noto-cjk # the faces of the window, Chinese too
     qt6-translations-l10n # the words of Qt's own file dialogs
     fonts-material-design-icons-iconfont # its icons
+    libgif-dev # writes the skin's moving pictures, and the GIFs of the tests: QtGui only reads them
     # to test and check
     libgtest-dev libbenchmark-dev clang-format clang-tidy
     adb aapt # the tools folder holds copies: the way to a phone, and the compiler of nine-patches, which the tests use too
     ffmpeg # makes real videos for the tests, and ffprobe is the peer of their inspection
-    libgif-dev # writes the GIFs of the tests
     clang libclang-rt-14-dev # the compiler of the fuzz targets, with libFuzzer and the sanitizers
     zip unzip python3 # peers of the benchmarks, and the tests of the program as a whole
     xvfb xauth openbox xdotool imagemagick # a screen, a window manager, hands and eyes for looking at the window

@@ -1,13 +1,12 @@
 #include "assets/screens/screenWriter.h"
 
 #include "assets/art/picture.h"
+#include "assets/art/pictureFile.h"
 #include "assets/screens/screenArt.h"
 #include "canvas/screens/screenTable.h"
-#include "support/atomicFile.h"
 #include "support/files.h"
 #include "support/parallel.h"
 
-#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <set>
@@ -26,8 +25,10 @@ struct Job {
     bool chinese;
 };
 
+constexpr const char* program = "zdt_screen_pictures";
+
 bool complain(const std::string& path) {
-    std::fprintf(stderr, "zdt_screen_pictures: can't make %s\n", path.c_str());
+    std::fprintf(stderr, "%s: can't remove %s\n", program, path.c_str());
     return false;
 }
 
@@ -46,14 +47,7 @@ std::vector<Job> collectJobs(const std::string& skin) {
 
 bool run(const Job& job) {
     const QImage picture = drawLayer(*job.layer, job.chinese);
-    if (picture.isNull())
-        return complain(job.path);
-    const QByteArray bytes = encodePng(picture);
-    const std::string_view content(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    constexpr std::uint64_t maxBytes = 16U << 20U;
-    if (const auto present = readFile(job.path, maxBytes); present && *present == content)
-        return true;
-    return (!content.empty() && makePath(job.path) && writeFile(job.path, content)) || complain(job.path);
+    return writePicture(job.path, picture.isNull() ? QByteArray() : encodePng(picture), program);
 }
 
 bool removeOthers(const std::string& folder, const std::vector<Job>& jobs) {

@@ -3,6 +3,7 @@
 #include "assets/art/generation.h"
 
 #include <QImage>
+#include <QSize>
 
 #include <string_view>
 

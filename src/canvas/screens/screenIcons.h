@@ -69,6 +69,7 @@ inline constexpr char16_t event = 0xe878;
 inline constexpr char16_t expandLess = 0xe5ce;
 inline constexpr char16_t expandMore = 0xe5cf;
 inline constexpr char16_t favorite = 0xe87d;
+inline constexpr char16_t favoriteBorder = 0xe87e;
 inline constexpr char16_t fileDownload = 0xe2c4;
 inline constexpr char16_t flashlightOn = 0xf00b;
 inline constexpr char16_t flight = 0xe539;
