@@ -38,21 +38,21 @@ void drawBattery(QPainter& painter, const QRectF& box, QRgb ink, int percent) {
 
 void drawStatusBar(QPainter& painter, const QRectF& area, QRgb ink, const QString& time, int battery) {
     const double unit = area.height() / statusBarHeight;
-    const double middle = area.center().y() + 2 * unit;
-    const int pixels = static_cast<int>(31 * unit);
-    const auto box = [&](double left, double side) {
-        return QRectF(left, middle - side * unit / 2, side * unit, side * unit);
+    const double middle = area.top() + 60 * unit;
+    const auto pixels = [&](int size) { return static_cast<int>(size * unit); };
+    const auto box = [&](double centre) {
+        const double side = 45 * unit;
+        return QRectF(centre - side / 2, middle - side / 2, side, side);
     };
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(palette::colour(ink));
-    painter.drawPath(signOutline(sign::signalCellularAlt, box(area.left() + 44 * unit, 40)));
-    painter.drawPath(signOutline(sign::wifi, box(area.left() + 90 * unit, 40)));
-    double right = drawEndingAt(painter, area.right() - 48 * unit, middle, pixels, time);
-    right -= 52 * unit;
-    drawBattery(painter, box(right, 40), ink, battery);
-    drawEndingAt(painter, right - 2 * unit, middle, pixels, QString("%1%").arg(battery));
+    painter.drawPath(signOutline(sign::signalCellularAlt, box(area.left() + 84 * unit)));
+    painter.drawPath(signOutline(sign::wifi, box(area.left() + 138 * unit)));
+    const double cell = drawEndingAt(painter, area.right() - 60 * unit, middle, pixels(36), time) - 38 * unit;
+    drawBattery(painter, box(cell), ink, battery);
+    drawEndingAt(painter, cell - 29 * unit, middle, pixels(33), QString("%1%").arg(battery));
     painter.restore();
 }
 

@@ -10,8 +10,6 @@ namespace zdt::assets {
 
 namespace {
 
-constexpr QRectF statusArea(0, 16, phoneWidth, 84);
-
 /// Back, home and the last applications.
 QPainterPath keyOutlines(double middle) {
     constexpr double half = 21;
@@ -46,7 +44,7 @@ LockScene phoneScene() {
 
 void paintStatus(QPainter& painter, QRgb ink) {
     const LockScene scene = phoneScene();
-    drawStatusBar(painter, statusArea, ink, timeText(scene), scene.battery);
+    drawStatusBar(painter, {0, 0, phoneWidth, statusBarHeight}, ink, timeText(scene), scene.battery);
 }
 
 void paintSystemBar(QPainter& painter, int height, const Generation& generation, QRgb ink) {

@@ -27,7 +27,7 @@ struct Arrangement {
 
 /// The clock stands in the sky beside the sun, or above it.
 constexpr Arrangement landscape{{0.305, 0.185}, 0.62, 0.79, 0.40, 0.66};
-constexpr Arrangement square{{0.5, 0.2}, 1, 0.855, 0.32, 0.62};
+constexpr Arrangement square{{0.5, 0.185}, 1, 0.86, 0.39, 0.62};
 
 QImage cutWallpaper(const PreviewSource& source, QSize size, const Arrangement& arrangement) {
     const QImage whole = source.picture("wallpaper/unlock_wallpaper_1.jpg");

@@ -35,7 +35,7 @@ struct Shot {
     QImage picture;
 };
 
-/// Pictures side by side with their names, of one height, over the whole width.
+/// Pictures side by side with their names, over the whole width: of one height, but none larger than it is.
 void addShots(Sheet& sheet, const std::vector<Shot>& shots) {
     constexpr double nameHeight = 40;
     constexpr double gap = 48;
@@ -48,9 +48,10 @@ void addShots(Sheet& sheet, const std::vector<Shot>& shots) {
     sheet.add(height + nameHeight, [=](QPainter& painter, const QRectF& area) {
         double x = area.left();
         for (const Shot& shot : shots) {
-            const QRectF place(x, area.top(), height * ratio(shot), height);
+            const double own = std::min(height, 1.0 * shot.picture.height());
+            const QRectF place(x, area.top(), own * ratio(shot), own);
             paintCovering(painter, place, 28, shot.picture);
-            paintName(painter, {place.left(), area.bottom() - nameHeight, place.width(), nameHeight}, shot.name);
+            paintName(painter, {place.left(), place.bottom(), place.width(), nameHeight}, shot.name);
             x = place.right() + gap;
         }
     });
