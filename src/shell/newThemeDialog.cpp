@@ -33,7 +33,7 @@ constexpr int checkDelay = 300;
 constexpr int signSide = 14;
 constexpr int cardPicture = 64;
 /// The picture of a template that stands for its phones: the home screen.
-constexpr const char* cardPreview = "preview/preview_icons_0.jpg";
+constexpr const char* cardPreview = "preview/preview_widget_0.jpg";
 
 QPixmap phonePicture(const std::string& root, unsigned generation, double ratio) {
     constexpr int tallest = 2 * cardPicture;

@@ -34,7 +34,7 @@ constexpr QSize largestScreen(320, 640);
 
 const std::array<Phone, 3> phones{{{QRect(0, 56, 200, 384), "preview_widget_0.jpg"},
                                    {QRect(312, 56, 200, 384), "preview_mms_0.jpg"},
-                                   {QRect(134, 0, 252, 488), "preview_icons_0.jpg"}}};
+                                   {QRect(134, 0, 252, 488), "preview_unlock_0.jpg"}}};
 
 } // namespace
 
