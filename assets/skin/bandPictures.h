@@ -6,13 +6,13 @@
 class QPainter;
 
 /// Bands of a lock screen that the phone needs for itself, as they are laid over the screen on which one is designed.
-/// Pixels of a screen 1080 wide; both bands reach from 421 to 660 across.
+/// Pixels of a screen 1080 wide; both bands begin 420 from the left, and so lie in the middle.
 namespace zdt::assets {
 
 /// Around the unlock control: from 942 to 582 above the screen's foot.
-inline constexpr QSize unlockBandSize(239, 360);
-/// At the foot of a screen 2160 high: from 1717 to 2136.
-inline constexpr QSize bottomBandSize(239, 419);
+inline constexpr QSize unlockBandSize(240, 360);
+/// At the foot of a screen 2160 high: from 1716 to 2136.
+inline constexpr QSize bottomBandSize(240, 420);
 
 void paintUnlockBand(QPainter& painter, const QRectF& area);
 void paintBottomBand(QPainter& painter, const QRectF& area);

@@ -60,17 +60,17 @@ void paintSwitchOff(QPainter& painter, const QRectF& area) {
 }
 
 void paintUnchecked(QPainter& painter, const QRectF& area) {
-    drawRounded(painter, area, token::radiusField, token::card.rgba(), token::fieldBorderHover.rgba(), 1);
+    drawRounded(painter, area, area.height() / 2, token::card.rgba(), token::fieldBorderHover.rgba(), 1);
 }
 
 void paintUncheckedHover(QPainter& painter, const QRectF& area) {
-    drawRounded(painter, area, token::radiusField, token::card.rgba(), token::textLabel.rgba(), 1);
+    drawRounded(painter, area, area.height() / 2, token::card.rgba(), token::textLabel.rgba(), 1);
 }
 
 void paintChecked(QPainter& painter, const QRectF& area) {
-    drawRounded(painter, area, token::radiusField, token::accentFill.rgba());
-    painter.setPen(QPen(token::card, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.drawPolyline(QPolygonF({{4.5, 8.5}, {7, 11}, {11.5, 5.75}}));
+    drawRounded(painter, area, area.height() / 2, token::accentFill.rgba());
+    painter.setPen(QPen(token::card, 1.75, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF({{4.75, 8.25}, {7, 10.5}, {11.25, 5.75}}));
 }
 
 void paintAddCell(QPainter& painter, const QRectF& area) {

@@ -34,12 +34,11 @@ void drawHomeBar(PhoneInk& ink, int height) {
     ink.fill(bar, 0.9, 4);
 }
 
-void drawShortcut(PhoneInk& ink, char32_t sign, QPointF middle, bool onGlass) {
+void drawShortcut(PhoneInk& ink, char32_t sign, QPointF middle) {
     constexpr double disc = 128;
-    if (onGlass)
-        ink.glass({middle.x() - disc / 2, middle.y() - disc / 2, disc, disc}, disc / 2,
-                  ink.tone() == Tone::tint ? 0.2 : 0.1);
-    ink.sign(sign, middle, onGlass ? 60 : 72);
+    ink.glass({middle.x() - disc / 2, middle.y() - disc / 2, disc, disc}, disc / 2,
+              ink.tone() == Tone::tint ? 0.2 : 0.1);
+    ink.sign(sign, middle, 60);
 }
 
 void drawSwipeHint(PhoneInk& ink, int height) {
@@ -67,15 +66,15 @@ void drawTrack(PhoneInk& ink, int height) {
 void drawSlide(PhoneInk& ink, const StatusOverlay& overlay) {
     const int height = overlay.height;
     const bool isNew = overlay.era == Era::from9;
-    ink.text({{interDisplayFace, isNew ? 200 : 400}, 264}, {centre, isNew ? 344.0 : 316.0}, time);
-    ink.text({{interFace, 400}, 46}, {centre, isNew ? 520.0 : 480.0}, date);
+    ink.text({{interDisplayFace, isNew ? 200 : 300}, 264}, {centre, isNew ? 344.0 : 316.0}, time);
+    ink.text({{interFace, 400}, 46}, {centre, isNew ? 520.0 : 492.0}, date);
     if (!isNew) {
         drawTrack(ink, height);
         return;
     }
     drawSwipeHint(ink, height);
-    drawShortcut(ink, sign::call, {margin + 72, height - 176.0}, true);
-    drawShortcut(ink, sign::photoCamera, {width - margin - 72, height - 176.0}, true);
+    drawShortcut(ink, sign::call, {margin + 72, height - 176.0});
+    drawShortcut(ink, sign::photoCamera, {width - margin - 72, height - 176.0});
 }
 
 /// The card at the screen's foot that tells of the picture, `area` its words.
@@ -112,7 +111,7 @@ void drawVeil(QPainter& painter, Tone tone, int height) {
 void drawMagazine(PhoneInk& ink, QPainter& painter, const StatusOverlay& overlay) {
     const int height = overlay.height;
     const bool isNew = overlay.era == Era::from9;
-    ink.text({{interDisplayFace, isNew ? 200 : 400}, 176, Side::left}, {margin, 224}, time);
+    ink.text({{interDisplayFace, isNew ? 200 : 300}, 176, Side::left}, {margin, 224}, time);
     ink.text({{interFace, 400}, 40, Side::left}, {margin + 4, 344}, date);
     drawVeil(painter, overlay.tone, height);
     drawStory(ink, {margin, height - (isNew ? 350.0 : 314.0), width - 2 * margin, 250});

@@ -1,6 +1,8 @@
 #include "assets/art/pictureFile.h"
+#include "assets/skin/bandPictures.h"
 #include "assets/skin/easingPictures.h"
 #include "assets/skin/skinWriter.h"
+#include "canvas/placementRules.h"
 #include "common/fixtures.h"
 #include "kit/tokens.h"
 
@@ -76,17 +78,17 @@ TEST(SkinPictures, HaveTheirSizesAndLetThroughWhatLiesBelow) {
         double mostCover;
     };
     const std::array<Row, 23> rows{{
-        {"skin/ZDThemeDesign/optrectjinqu.png", {239, 360}, 0.26, 0.32},
-        {"skin/ZDThemeDesign/SafeRect.png", {239, 419}, 0.21, 0.26},
+        {"skin/ZDThemeDesign/optrectjinqu.png", {240, 360}, 0.26, 0.32},
+        {"skin/ZDThemeDesign/SafeRect.png", {240, 420}, 0.21, 0.26},
         {"skin/ZDThemeDesign/pnd_msg.png", {40, 40}, 0.98, 1},
         {"skin/ZDThemeDesign/pnd_music.png", {40, 40}, 0.98, 1},
         {"skin/ZDThemeDesign/pnd_unlock.png", {40, 40}, 0.98, 1},
         {"skin/ZDThemeDesign/png/add-new.png", {56, 56}, 0.98, 1},
         {"skin/ZDThemeDesign/png/reducesmall.png", {16, 16}, 0.7, 0.85},
-        {"skin/ZDThemeDesign/png/ryx.png", {16, 16}, 0.92, 0.99},
-        {"skin/ZDThemeDesign/png/ryx-n.png", {16, 16}, 0.92, 0.99},
-        {"skin/ZDThemeDesign/png/ryx-x.png", {16, 16}, 0.92, 0.99},
-        {"skin/ZDThemeDesign/png/ryx-x@2x.png", {32, 32}, 0.92, 0.99},
+        {"skin/ZDThemeDesign/png/ryx.png", {16, 16}, 0.76, 0.8},
+        {"skin/ZDThemeDesign/png/ryx-n.png", {16, 16}, 0.76, 0.8},
+        {"skin/ZDThemeDesign/png/ryx-x.png", {16, 16}, 0.76, 0.8},
+        {"skin/ZDThemeDesign/png/ryx-x@2x.png", {32, 32}, 0.76, 0.8},
         {"skin/ZDThemeDesign/png/sysp-off.png", {34, 19}, 0.85, 0.95},
         {"skin/ZDThemeDesign/png/sysp-on.png", {34, 19}, 0.85, 0.95},
         {"skin/ZDThemeDesign/png/sysp-on@2x.png", {68, 38}, 0.85, 0.95},
@@ -120,6 +122,28 @@ TEST(SkinPictures, OfOneControlTellItsStatesApart) {
     }};
     for (const auto& [one, other] : pairs)
         EXPECT_NE(load(one), load(other)) << one;
+}
+
+TEST(BandPictures, AreAsLargeAsWhatAnElementMustKeepClearOf) {
+    const DesignSpace space{DesignSpace::highHeight, true};
+    struct Row {
+        bool (*isClear)(const EdgeRect& rect, const DesignSpace& space);
+        QSize size;
+        QPoint corner;
+    };
+    for (const Row& row : {Row{isClearOfUnlock, assets::unlockBandSize, {420, 2160 - 942}},
+                           Row{isClearOfBottom, assets::bottomBandSize, {420, 1716}}}) {
+        QRect band;
+        for (int x = 0; x < DesignSpace::width; ++x) {
+            if (!row.isClear({x, 0, x + 1, space.height}, space))
+                band |= QRect(x, row.corner.y(), 1, 1);
+        }
+        for (int y = 0; y < space.height; ++y) {
+            if (!row.isClear({0, y, DesignSpace::width, y + 1}, space))
+                band |= QRect(row.corner.x(), y, 1, 1);
+        }
+        EXPECT_EQ(band, QRect(row.corner, row.size)) << row.corner.y();
+    }
 }
 
 TEST(StatusOverlays, AreWhiteForDarkWallpapersAndDarkForBrightOnes) {
