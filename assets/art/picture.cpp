@@ -46,7 +46,7 @@ QByteArray encodePng(const QImage& picture) {
 
 QByteArray encodeJpeg(const QImage& picture, std::uint64_t maxBytes) {
     const QImage opaque = picture.convertToFormat(QImage::Format_RGB32);
-    for (const int quality : {96, 92, 86, 78, 68, 55}) {
+    for (const int quality : {96, 94, 92, 90, 88, 86, 82, 78, 68, 55}) {
         QBuffer buffer;
         QImageWriter writer(&buffer, "jpg");
         writer.setQuality(quality);

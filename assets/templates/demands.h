@@ -22,8 +22,7 @@ struct Demand {
 };
 
 /// What the resource tree asks for, over all kinds of theme, big and small, in both languages; each file once, in the
-/// order of the paths. The icon that a theme may do without isn't among them, nor are
-/// previews, nor is anything but pictures.
+/// order of the paths. Previews aren't among them, nor is anything but pictures.
 [[nodiscard]] std::vector<Demand> collectDemands(const Generation& generation);
 
 } // namespace zdt::assets
