@@ -3,6 +3,7 @@
 #include "assets/art/palette.h"
 
 #include <QPainter>
+#include <QPainterPath>
 
 /// What most pictures are made of.
 namespace zdt::assets {
@@ -24,12 +25,12 @@ inline void drawDisc(QPainter& painter, QPointF middle, double radius, QRgb fill
     painter.drawEllipse(middle, radius, radius);
 }
 
-/// A card above a soft shadow, which lies inside `area` and takes `depth` pixels on each side.
-inline void drawRaised(QPainter& painter, const QRectF& area, double radius, double depth, QRgb fill) {
-    for (double inset = 0; inset < depth; ++inset)
-        drawRounded(painter, area.marginsRemoved({inset, inset, inset, inset}), radius + depth - inset,
-                    qRgba(0, 0, 0, 3));
-    drawRounded(painter, area.marginsRemoved({depth, depth, depth, depth}), radius, fill);
-}
+[[nodiscard]] QRectF squareAt(QPointF middle, double side);
+[[nodiscard]] QPainterPath discOutline(QPointF middle, double radius);
+[[nodiscard]] QPainterPath roundedPath(const QRectF& area, double radius);
+
+[[nodiscard]] QPen roundPen(const QBrush& brush, double width);
+/// A line along a path, with round ends and joints.
+[[nodiscard]] QPainterPath thickLine(const QPainterPath& path, double width);
 
 } // namespace zdt::assets

@@ -29,7 +29,7 @@ Pieces calendarPage(const Material& material) {
     head.addRect(QRectF(46, 50, 100, 26));
     return {{page, material.sheet(), 4},
             {page.intersected(head), material.deep()},
-            {thick("M72 43 V57 M120 43 V57", material.line() + 1), isDark ? material.ink() : material.sheet(), 2}};
+            {thickLine("M72 43 V57 M120 43 V57", material.line() + 1), isDark ? material.ink() : material.sheet(), 2}};
 }
 
 Pieces calendar(const Material& material) {
@@ -64,7 +64,7 @@ Pieces notepad(const Material& material) {
         return QTransform().translate(118, 108).rotate(38).translate(-118, -108).map(readOutline(outline));
     };
     return {{readOutline("R50 46 82 100 13"), material.sheet(), 4},
-            {thick("M66 70 H116 M66 87 H104 M66 104 H92", material.line() * 0.8), material.tint()},
+            {thickLine("M66 70 H116 M66 87 H104 M66 104 H92", material.line() * 0.8), material.tint()},
             {lean("M110 62 H126 V132 L118 148 L110 132 Z"), material.sheet(), 3},
             {lean("R110 68 16 62 0"), material.of(Hue::teal)},
             {lean("M110 66 V60 Q110 54 118 54 Q126 54 126 60 V66 Z"), material.of(Hue::rose)},

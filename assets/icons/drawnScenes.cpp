@@ -44,7 +44,7 @@ Pieces landscape(const Material& material) {
 }
 
 Pieces sunAndCloud(const Material& material) {
-    return {{thick("M118 40 V46 M142 50 L138 54 M152 74 H146 M94 50 L98 54", 6), material.of(Hue::amber)},
+    return {{thickLine("M118 40 V46 M142 50 L138 54 M152 74 H146 M94 50 L98 54", 6), material.of(Hue::amber)},
             {readOutline("O118 76 23"), material.of(Hue::amber), 3},
             {cloudShape().translated(-4, 6), material.main(), 4}};
 }

@@ -31,15 +31,15 @@ Pieces film(const Material& material) {
 Pieces globe(const Material& material) {
     const QPainterPath ball = readOutline("O96 96 50");
     const QPainterPath lines =
-        thick("M96 46 V146 M46 96 H146 M96 46 C62 70 62 122 96 146 M96 46 C130 70 130 122 96 146 "
-              "M53 69 Q96 84 139 69 M53 123 Q96 108 139 123",
-              material.line() * 0.72);
+        thickLine("M96 46 V146 M46 96 H146 M96 46 C62 70 62 122 96 146 M96 46 C130 70 130 122 96 146 "
+                  "M53 69 Q96 84 139 69 M53 123 Q96 108 139 123",
+                  material.line() * 0.72);
     return {{ball, material.main(), 4}, {lines.intersected(ball), material.cut()}};
 }
 
 Pieces heart(const Material& material) {
     const QPainterPath shape = balanced(signOutline(sign::favorite, QRectF(48, 48, 96, 96)), 102);
-    const QPainterPath pulse = thick("M40 98 H74 L84 80 L98 116 L108 92 L112 98 H152", material.line());
+    const QPainterPath pulse = thickLine("M40 98 H74 L84 80 L98 116 L108 92 L112 98 H152", material.line());
     return {{shape, material.main(), 4}, {pulse.intersected(shape), material.cut()}};
 }
 
@@ -106,7 +106,7 @@ Pieces soundWave(const Material& material) {
     for (const double height : heights) {
         QPainterPath line(QPointF(x, 96 - height / 2 + 4));
         line.lineTo(x, 96 + height / 2 - 4);
-        pieces.push_back({thick(line, 8), x > 97 ? material.soft() : material.main(), 3});
+        pieces.push_back({thickLine(line, 8), x > 97 ? material.soft() : material.main(), 3});
         x += 15;
     }
     return pieces;

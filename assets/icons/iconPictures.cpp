@@ -41,7 +41,7 @@ const IconRow* rowOf(std::string_view name) {
 void paintTile(QPainter& painter, const Pieces& pieces, const Material& material) {
     paintGround(painter, material);
     if (material.language() == Language::paper)
-        paintLongShadow(painter, pieces, material);
+        paintPaperShadow(painter, pieces, material);
     paintPieces(painter, pieces, material);
     paintRim(painter, material.language());
 }

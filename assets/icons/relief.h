@@ -18,15 +18,11 @@ struct Piece {
 
 using Pieces = std::vector<Piece>;
 
-/// Fills the shape with a soft edge.
-/// @param radius by which the edge goes soft, about half of its width: pixels, at least 1
-void paintGlow(QPainter& painter, const QPainterPath& shape, QRgb colour, int radius);
-
 /// Paints the pieces one upon the other with the shadows of the material's language. Where they let the ground through,
 /// they let only the ground through.
 void paintPieces(QPainter& painter, const Pieces& pieces, const Material& material);
 
 /// The shadow that a sign of paper throws down the tile, below the pieces.
-void paintLongShadow(QPainter& painter, const Pieces& pieces, const Material& material);
+void paintPaperShadow(QPainter& painter, const Pieces& pieces, const Material& material);
 
 } // namespace zdt::assets

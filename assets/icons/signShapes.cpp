@@ -5,7 +5,6 @@
 
 #include <QImage>
 #include <QPainter>
-#include <QPainterPathStroker>
 #include <QTransform>
 
 #include <algorithm>
@@ -78,28 +77,12 @@ QPointF centreOf(const Ink& ink) {
 
 } // namespace
 
-QPainterPath disc(QPointF centre, double radius) {
-    QPainterPath path;
-    path.addEllipse(centre, radius, radius);
-    return path;
-}
-
-QPainterPath thick(const QPainterPath& path, double width) {
-    QPainterPathStroker stroker;
-    stroker.setWidth(width);
-    stroker.setCapStyle(Qt::RoundCap);
-    stroker.setJoinStyle(Qt::RoundJoin);
-    QPainterPath line = stroker.createStroke(path);
-    line.setFillRule(Qt::WindingFill);
-    return line;
-}
-
-QPainterPath thick(std::string_view outline, double width) {
-    return thick(readOutline(outline), width);
+QPainterPath thickLine(std::string_view outline, double width) {
+    return thickLine(readOutline(outline), width);
 }
 
 QPainterPath swollen(const QPainterPath& path, double width) {
-    return path.united(thick(path, width));
+    return path.united(thickLine(path, width));
 }
 
 QPainterPath turned(const QPainterPath& path, double degrees) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "assets/art/shapes.h"
+
 #include <QPainterPath>
 #include <QPolygonF>
 
@@ -9,11 +11,8 @@
 /// The outlines that signs are made of, on an icon's side.
 namespace zdt::assets {
 
-[[nodiscard]] QPainterPath disc(QPointF centre, double radius);
-
-/// A line along a path, with round ends and joints.
-[[nodiscard]] QPainterPath thick(const QPainterPath& path, double width);
-[[nodiscard]] QPainterPath thick(std::string_view outline, double width);
+/// A line along an outline, with round ends and joints.
+[[nodiscard]] QPainterPath thickLine(std::string_view outline, double width);
 
 /// The path, with its corners rounded by a line around it; it grows by half of `width`.
 [[nodiscard]] QPainterPath swollen(const QPainterPath& path, double width);

@@ -1,5 +1,7 @@
 #include "assets/icons/tile.h"
 
+#include "assets/art/shapes.h"
+#include "assets/art/softShape.h"
 #include "assets/icons/relief.h"
 
 #include <cmath>
@@ -35,21 +37,15 @@ QPainterPath superellipse(double radius) {
 }
 
 QPainterPath shapeInset(Language language, double inset) {
-    QPainterPath path;
     switch (language) {
-    case Language::paper: {
-        const double side = paperSide - 2 * inset;
-        path.addRoundedRect(QRectF(middle.x() - side / 2, middle.y() - side / 2, side, side), paperCorner - inset,
-                            paperCorner - inset);
-        break;
-    }
+    case Language::paper:
+        return roundedPath(squareAt(middle, paperSide - 2 * inset), paperCorner - inset);
     case Language::dune:
-        path.addEllipse(middle, roundRadius - inset, roundRadius - inset);
-        break;
+        return discOutline(middle, roundRadius - inset);
     case Language::aurora:
         return superellipse(roundRadius - inset);
     }
-    return path;
+    return {};
 }
 
 /// What lies within the edge, at most `width` away from it.
@@ -61,14 +57,14 @@ QPainterPath band(Language language, double width) {
 }
 
 /// A shadow outside of the tile alone, since the border lies over pictures.
-void paintOuterShadow(QPainter& painter, Language language, QPointF shift, QRgb colour, int radius) {
+void paintOuterShadow(QPainter& painter, Language language, QPointF shift, QRgb colour, double sigma) {
     QPainterPath outside;
     outside.addRect(QRectF(0, 0, iconSide, iconSide));
     outside.addPath(tileShape(language));
     outside.setFillRule(Qt::OddEvenFill);
     painter.save();
     painter.setClipPath(outside);
-    paintGlow(painter, tileShape(language).translated(shift), colour, radius);
+    paintSoft(painter, tileShape(language).translated(shift), colour, sigma);
     painter.restore();
 }
 
@@ -80,14 +76,14 @@ QBrush across(QPointF from, QPointF to, std::initializer_list<std::pair<double, 
 }
 
 void paintPaperRim(QPainter& painter) {
-    paintOuterShadow(painter, Language::paper, {2.5, 3}, 0x50101c24, 2);
+    paintOuterShadow(painter, Language::paper, {2.5, 3}, 0x50101c24, 2.5);
     painter.fillPath(
         band(Language::paper, 1.6),
         across({40, 10}, {152, 182}, {{0, 0x73ffffff}, {0.45, 0x2effffff}, {0.55, 0x14000000}, {1, 0x38000000}}));
 }
 
 void paintDuneRim(QPainter& painter) {
-    paintOuterShadow(painter, Language::dune, {-1.5, 3}, 0x603c1a08, 2);
+    paintOuterShadow(painter, Language::dune, {-1.5, 3}, 0x603c1a08, 2.5);
     painter.fillPath(band(Language::dune, 3.2),
                      across({192, 30}, {0, 170}, {{0, 0xe6fff7e6}, {0.5, 0xd0ecc890}, {1, 0xd8c98f58}}));
     painter.fillPath(band(Language::dune, 1.2), QColor::fromRgba(0x30a0622c));
@@ -98,7 +94,7 @@ void paintDuneFrame(QPainter& painter, const Material& material) {
     const QPainterPath frame = band(Language::dune, duneFrame);
     painter.save();
     painter.setClipPath(shapeInset(Language::dune, duneFrame));
-    paintGlow(painter, frame.translated(-2, 2), 0x80603010, 2);
+    paintSoft(painter, frame.translated(-2, 2), 0x80603010, 2.5);
     painter.restore();
     painter.fillPath(frame, material.ground());
 }
@@ -106,9 +102,9 @@ void paintDuneFrame(QPainter& painter, const Material& material) {
 void paintAuroraRim(QPainter& painter) {
     painter.save();
     painter.setClipPath(tileShape(Language::aurora));
-    paintGlow(painter, band(Language::aurora, 4), 0x60ffffff, 5);
+    paintSoft(painter, band(Language::aurora, 4), 0x60ffffff, 5.5);
     painter.restore();
-    paintOuterShadow(painter, Language::aurora, {0, 2}, 0x48081030, 3);
+    paintOuterShadow(painter, Language::aurora, {0, 2}, 0x48081030, 3.5);
     painter.fillPath(
         band(Language::aurora, 2.2),
         across({0, 6}, {0, 186}, {{0, 0xb8ffffff}, {0.16, 0x50ffffff}, {0.5, 0x14ffffff}, {1, 0x30ffffff}}));

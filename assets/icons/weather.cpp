@@ -1,7 +1,6 @@
 #include "assets/icons/weather.h"
 
 #include "assets/art/picture.h"
-#include "assets/icons/drawnSigns.h"
 #include "assets/icons/tile.h"
 #include "assets/icons/weatherScene.h"
 
@@ -119,15 +118,6 @@ QImage drawWeather(std::string_view name, QSize size, const Generation& generati
     paintScene(painter, *row, material);
     paintBorder(painter, material);
     return canvas.finish();
-}
-
-void paintSunnyCloud(QPainter& painter, const QRectF& area, const Generation& generation) {
-    const Material material(generation, Hue::sky);
-    painter.save();
-    painter.translate(area.topLeft());
-    painter.scale(area.width() / iconSide, area.height() / iconSide);
-    paintPieces(painter, drawn::sunAndCloud(material), material);
-    painter.restore();
 }
 
 } // namespace zdt::assets

@@ -16,7 +16,7 @@ QPainterPath flake(QPointF centre, double radius, double width) {
     for (int arm = 0; arm < 3; ++arm) {
         QPainterPath line(QPointF(0, -radius));
         line.lineTo(0, radius);
-        star.addPath(QTransform().translate(centre.x(), centre.y()).rotate(60.0 * arm).map(thick(line, width)));
+        star.addPath(QTransform().translate(centre.x(), centre.y()).rotate(60.0 * arm).map(thickLine(line, width)));
     }
     return star;
 }
@@ -27,7 +27,7 @@ void WeatherScene::addDrops(std::initializer_list<QPointF> tops, double length) 
     for (const QPointF& top : tops) {
         QPainterPath line(top);
         line.lineTo(top + QPointF(-length * 0.36, length));
-        add(thick(line, isPaper() ? 6.5 : 5.5), _air.rain, isPaper() ? 2 : 0);
+        add(thickLine(line, isPaper() ? 6.5 : 5.5), _air.rain, isPaper() ? 2 : 0);
     }
 }
 
@@ -36,7 +36,7 @@ void WeatherScene::addFlakes() {
     for (const QPointF& centre : {QPointF(68, 140), QPointF(97, 150), QPointF(126, 139)})
         add(flake(centre, 10.5, width), _air.fair, 2);
     for (const QPointF& centre : {QPointF(83, 129), QPointF(111, 130), QPointF(76, 162), QPointF(119, 161)})
-        add(disc(centre, 3), _air.fair, 1);
+        add(discOutline(centre, 3), _air.fair, 1);
 }
 
 void WeatherScene::addBolt() {
@@ -63,7 +63,7 @@ void WeatherScene::addMist(double top) {
 
 void WeatherScene::addLines(std::span<const char* const> outlines, double width, const Shade& shade) {
     for (const char* outline : outlines)
-        add(thick(outline, _language == Language::aurora ? width - 1.5 : width), shade, 3);
+        add(thickLine(outline, _language == Language::aurora ? width - 1.5 : width), shade, 3);
 }
 
 void WeatherScene::addGusts() {
@@ -82,19 +82,20 @@ void WeatherScene::addDust() {
     addLines(lines, 8, _air.dust);
     for (const Grain& grain :
          {Grain{60, 52, 4.5}, {84, 48, 3.5}, {44, 110, 4.5}, {70, 149, 4.5}, {112, 152, 3.5}, {149, 72, 4}})
-        add(disc({grain.x, grain.y}, grain.radius), _air.dust, 1);
+        add(discOutline({grain.x, grain.y}, grain.radius), _air.dust, 1);
 }
 
 void WeatherScene::addThermometer() {
-    add(readOutline("R120 62 24 74 12").united(disc({132, 134}, 19)), _air.fair, 4);
-    _pieces.push_back({readOutline("R128 84 8 46 4").united(disc({132, 134}, 12)), QColor::fromRgba(0xffe0433a)});
+    add(readOutline("R120 62 24 74 12").united(discOutline({132, 134}, 19)), _air.fair, 4);
+    _pieces.push_back(
+        {readOutline("R128 84 8 46 4").united(discOutline({132, 134}, 12)), QColor::fromRgba(0xffe0433a)});
 }
 
 void WeatherScene::addCrystal() {
     QPainterPath star;
     star.setFillRule(Qt::WindingFill);
     const QPainterPath arm =
-        thick("M96 96 V44 M83 52 L96 63 L109 52 M87 71 L96 79 L105 71", _language == Language::aurora ? 5.5 : 6.5);
+        thickLine("M96 96 V44 M83 52 L96 63 L109 52 M87 71 L96 79 L105 71", _language == Language::aurora ? 5.5 : 6.5);
     for (int index = 0; index < 6; ++index)
         star.addPath(turned(arm, 60.0 * index));
     add(star.translated(0, -6), _air.fair, 4);

@@ -50,20 +50,20 @@ void WeatherScene::add(const QPainterPath& path, const Shade& shade, double lift
 /// Light around a place: in rings of paper, or fading.
 void WeatherScene::addGlow(QPointF centre, double radius, QRgb colour) {
     if (isPaper()) {
-        _pieces.push_back({disc(centre, radius), QColor::fromRgba(withAlpha(colour, 56))});
-        _pieces.push_back({disc(centre, radius * 0.78), QColor::fromRgba(withAlpha(colour, 72))});
+        _pieces.push_back({discOutline(centre, radius), QColor::fromRgba(withAlpha(colour, 56))});
+        _pieces.push_back({discOutline(centre, radius * 0.78), QColor::fromRgba(withAlpha(colour, 72))});
         return;
     }
     QRadialGradient glow(centre, radius * 1.25);
     glow.setColorAt(0, QColor::fromRgba(withAlpha(colour, 192)));
     glow.setColorAt(0.4, QColor::fromRgba(withAlpha(colour, 112)));
     glow.setColorAt(1, QColor::fromRgba(withAlpha(colour, 0)));
-    _pieces.push_back({disc(centre, radius * 1.25), glow});
+    _pieces.push_back({discOutline(centre, radius * 1.25), glow});
 }
 
 void WeatherScene::addSun(QPointF centre, double radius) {
     addGlow(centre, radius * 1.95, _air.sun.top);
-    add(disc(centre, radius), _air.sun, 3);
+    add(discOutline(centre, radius), _air.sun, 3);
 }
 
 void WeatherScene::addRays(QPointF centre, double radius) {
@@ -74,7 +74,7 @@ void WeatherScene::addRays(QPointF centre, double radius) {
         const QPointF direction = QTransform().rotate(360.0 * ray / count).map(QPointF(0, -1));
         QPainterPath line(centre + direction * (radius + 13));
         line.lineTo(centre + direction * (radius + 19));
-        rays.addPath(thick(line, 6.5));
+        rays.addPath(thickLine(line, 6.5));
     }
     add(rays, _air.sun, 0);
 }
@@ -88,8 +88,8 @@ void WeatherScene::addMoonAndStars() {
         addGlow(moon, 44, _air.moon.top);
     for (const Star& star :
          {Star{56, 58, 2.4}, {78, 40, 1.8}, {46, 88, 1.7}, {150, 58, 2.2}, {70, 76, 1.5}, {132, 34, 1.6}})
-        _pieces.push_back({disc({star.x, star.y}, star.radius), QColor(255, 255, 255, 220)});
-    add(disc(moon, 31).subtracted(disc(moon + QPointF(16, -10), 28)), _air.moon, 3);
+        _pieces.push_back({discOutline({star.x, star.y}, star.radius), QColor(255, 255, 255, 220)});
+    add(discOutline(moon, 31).subtracted(discOutline(moon + QPointF(16, -10), 28)), _air.moon, 3);
 }
 
 void WeatherScene::addLand() {

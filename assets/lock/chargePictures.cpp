@@ -56,11 +56,11 @@ void drawLight(QPainter& painter, QPointF middle, double fill) {
     glass.setColorAt(1, palette::colour(0x80061426));
     painter.fillPath(track, glass);
     painter.strokePath(track, QPen(palette::colour(0x66ffffff), 3));
-    drawGlow(painter, light, 0x8058e8d0, 26);
+    paintGlow(painter, thickLine(light, line), 0x8058e8d0, 21);
     painter.strokePath(light, roundPen(hues, line));
     if (fill < 1) {
         const QPointF head = onCircle(middle, radius, fill);
-        drawGlow(painter, discOutline(head, 4), 0xb0c8fff0, 16);
+        paintGlow(painter, discOutline(head, 4), 0xb0c8fff0, 16);
         painter.fillPath(discOutline(head, 6.5), Qt::white);
     }
     QRadialGradient shine(middle, 66);
@@ -89,7 +89,7 @@ void drawSunrise(QPainter& painter, QPointF middle, double fill) {
     constexpr double rim = lineRadius + line + 2;
     const QPainterPath window = discOutline(middle, radius);
     const QRectF area = window.boundingRect();
-    drawGlow(painter, discOutline(middle + QPointF(0, 4), rim), 0x805a2412, 9);
+    paintGlow(painter, discOutline(middle + QPointF(0, 4), rim), 0x805a2412, 9);
     painter.fillPath(discOutline(middle, rim), downwards(squareAt(middle, 2 * rim), 0xfffffaf0, 0xfff7e5cb));
     painter.save();
     painter.setClipPath(window);
@@ -141,7 +141,7 @@ void drawPapers(QPainter& painter, QPointF middle, int index) {
     const QPainterPath core = discOutline(middle, 60);
     const QPainterPath bolt = signOutline(sign::bolt, squareAt(middle, 84));
     painter.fillPath(core, palette::colour(0xff1f7f7a));
-    drawLongShadow(painter, bolt, core, 0xff196863);
+    paintLongShadow(painter, std::span(&bolt, 1), core, 0xff196863);
     painter.fillPath(bolt, palette::colour(0xfffffdf6));
 }
 

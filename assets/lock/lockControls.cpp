@@ -35,7 +35,7 @@ void drawNoticeSign(QPainter& painter, char32_t sign, QPointF middle, double sid
     const QPainterPath tile = roundedPath(squareAt(middle, side), side * 0.18);
     const QPainterPath outline = signOutline(sign, squareAt(middle, side * 0.62));
     painter.fillPath(tile, palette::colour(colour));
-    drawLongShadow(painter, outline, tile, QColor(palette::colour(colour)).darker(118).rgba());
+    paintLongShadow(painter, std::span(&outline, 1), tile, QColor(palette::colour(colour)).darker(118).rgba());
     painter.fillPath(outline, Qt::white);
 }
 
@@ -138,7 +138,7 @@ QImage drawLockArrow(const Generation& generation) {
         if (isPaper(generation))
             canvas.painter().strokePath(angle.translated(3, 5), roundPen(palette::colour(hint.shadow), hint.lineWidth));
         else
-            drawGlow(canvas.painter(), angle, hint.shadow, 12);
+            paintGlow(canvas.painter(), thickLine(angle, hint.lineWidth), hint.shadow, 10);
         canvas.painter().strokePath(angle, roundPen(colour, hint.lineWidth));
     }
     return canvas.finish();

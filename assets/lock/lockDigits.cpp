@@ -40,7 +40,7 @@ double scaleFor(int cellHeight, const Generation& generation) {
 QImage drawOutline(const QPainterPath& outline, QSize cell, const Generation& generation) {
     Canvas canvas(cell);
     if (generation.language == Language::aurora)
-        drawGlow(canvas.painter(), outline, 0x4a06122c, 20);
+        paintGlow(canvas.painter(), outline, 0x4a06122c, 20);
     canvas.painter().fillPath(outline, palette::colour(generation.lockInk));
     return canvas.finish();
 }

@@ -2,11 +2,6 @@
 
 #include "assets/art/palette.h"
 
-#include <QImage>
-
-#include <algorithm>
-#include <cmath>
-
 namespace zdt::assets {
 
 namespace {
@@ -22,31 +17,15 @@ void drawSurfaceShadow(QPainter& painter, const QPainterPath& surface, Language 
         drawPaperShadow(painter, surface, 7);
         break;
     case Language::dune:
-        drawGlow(painter, surface.translated(0, 4), 0x707a3a1c, shadowRoom - 4);
+        paintGlow(painter, surface.translated(0, 4), 0x707a3a1c, shadowRoom - 4);
         break;
     case Language::aurora:
-        drawGlow(painter, surface, 0x60030a1e, shadowRoom);
+        paintGlow(painter, surface, 0x60030a1e, shadowRoom);
         break;
     }
 }
 
 } // namespace
-
-QRectF squareAt(QPointF middle, double side) {
-    return {middle.x() - side / 2, middle.y() - side / 2, side, side};
-}
-
-QPainterPath discOutline(QPointF middle, double radius) {
-    QPainterPath path;
-    path.addEllipse(middle, radius, radius);
-    return path;
-}
-
-QPainterPath roundedPath(const QRectF& area, double radius) {
-    QPainterPath path;
-    path.addRoundedRect(area, radius, radius);
-    return path;
-}
 
 QPainterPath chevronUp(QPointF point, double halfWidth, double height) {
     QPainterPath path(point + QPointF(-halfWidth, height));
@@ -60,38 +39,6 @@ QBrush downwards(const QRectF& area, QRgb top, QRgb bottom) {
     gradient.setColorAt(0, palette::colour(top));
     gradient.setColorAt(1, palette::colour(bottom));
     return gradient;
-}
-
-QPen roundPen(const QBrush& brush, double width) {
-    return {brush, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
-}
-
-void drawGlow(QPainter& painter, const QPainterPath& shape, QRgb colour, double reach) {
-    const QRect bounds = shape.boundingRect().adjusted(-reach, -reach, reach, reach).toAlignedRect();
-    // A line for each pixel outwards, each so faint that eight bits would show its edge and lose its hue.
-    const int lines = std::max(8, static_cast<int>(reach));
-    QColor line = palette::colour(colour);
-    line.setAlphaF(1 - std::pow(1 - line.alphaF(), 1.0F / static_cast<float>(lines)));
-    QImage glow(bounds.size(), QImage::Format_RGBA64_Premultiplied);
-    glow.fill(Qt::transparent);
-    QPainter light(&glow);
-    light.setRenderHint(QPainter::Antialiasing);
-    light.translate(-bounds.topLeft());
-    for (int index = 1; index <= lines; ++index) {
-        const double part = static_cast<double>(index) / lines;
-        light.strokePath(shape, roundPen(line, 2 * reach * part * part));
-    }
-    light.end();
-    painter.drawImage(bounds.topLeft(), glow);
-}
-
-void drawLongShadow(QPainter& painter, const QPainterPath& shape, const QPainterPath& tile, QRgb colour) {
-    const int length = static_cast<int>(tile.boundingRect().width());
-    painter.save();
-    painter.setClipPath(tile);
-    for (int step = 1; step < length; ++step)
-        painter.fillPath(shape.translated(step, step), palette::colour(colour));
-    painter.restore();
 }
 
 void drawCard(QPainter& painter, const QRectF& area, double radius, const Generation& generation) {
@@ -119,7 +66,7 @@ void drawAccent(QPainter& painter, const QRectF& area, char32_t sign, double sig
     drawSurfaceShadow(painter, tile, generation.language);
     painter.fillPath(tile, downwards(area, look.accentTop, look.accentBottom));
     if (isPaper)
-        drawLongShadow(painter, outline, tile, 0xff196863);
+        paintLongShadow(painter, std::span(&outline, 1), tile, 0xff196863);
     painter.fillPath(outline, palette::colour(look.accentInk));
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "assets/art/generation.h"
+#include "assets/art/shapes.h"
+#include "assets/art/softShape.h"
 #include "assets/lock/lockLook.h"
 
 #include <QBrush>
@@ -14,22 +16,11 @@ namespace zdt::assets {
     return {cell.width, cell.height};
 }
 
-[[nodiscard]] QRectF squareAt(QPointF middle, double side);
-[[nodiscard]] QPainterPath discOutline(QPointF middle, double radius);
-[[nodiscard]] QPainterPath roundedPath(const QRectF& area, double radius);
 /// An angle with its point upwards.
 [[nodiscard]] QPainterPath chevronUp(QPointF point, double halfWidth, double height);
 
 /// From one colour above to another below.
 [[nodiscard]] QBrush downwards(const QRectF& area, QRgb top, QRgb bottom);
-
-[[nodiscard]] QPen roundPen(const QBrush& brush, double width);
-
-/// A light or a shadow around a shape, of the colour at its edge and gone at `reach` pixels from it.
-void drawGlow(QPainter& painter, const QPainterPath& shape, QRgb colour, double reach);
-
-/// The hard shadow that a paper sign throws to the lower right, as far as its tile goes.
-void drawLongShadow(QPainter& painter, const QPainterPath& shape, const QPainterPath& tile, QRgb colour);
 
 /// A surface in the material of the language, above its shadow, for which `area` leaves `shadowRoom` on each side.
 void drawCard(QPainter& painter, const QRectF& area, double radius, const Generation& generation);

@@ -1,6 +1,8 @@
 #include "assets/previews/phoneParts.h"
 
 #include "assets/art/palette.h"
+#include "assets/art/shapes.h"
+#include "assets/art/softShape.h"
 #include "assets/lock/statusBar.h"
 #include "canvas/screens/screenLayer.h"
 
@@ -27,13 +29,6 @@ QPainterPath keyOutlines(double middle) {
     return path;
 }
 
-/// Smoothed in every direction by about `radius` pixels.
-QImage blurred(const QImage& picture, int radius) {
-    const QSize small = picture.size() / radius;
-    return picture.scaled(small, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-        .scaled(picture.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
 } // namespace
 
 LockScene phoneScene() {
@@ -50,7 +45,7 @@ void paintStatus(QPainter& painter, QRgb ink) {
 void paintSystemBar(QPainter& painter, int height, const Generation& generation, QRgb ink) {
     if (hasKeys(generation)) {
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(palette::colour(ink), 5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(roundPen(palette::colour(ink), 5));
         painter.drawPath(keyOutlines(height - keyBarHeight / 2.0));
     } else {
         painter.setPen(Qt::NoPen);
@@ -61,17 +56,9 @@ void paintSystemBar(QPainter& painter, int height, const Generation& generation,
 }
 
 void paintLifted(QPainter& painter, const QPainterPath& shapes, QRgb ink) {
-    constexpr int reach = 24;
-    constexpr int softness = 6;
+    constexpr double softness = 3;
     constexpr QPointF drop(0, 3);
-    const QRect area = shapes.boundingRect().toAlignedRect().adjusted(-reach, -reach, reach, reach);
-    QImage shadow(area.size(), QImage::Format_ARGB32_Premultiplied);
-    shadow.fill(Qt::transparent);
-    QPainter shade(&shadow);
-    shade.setRenderHint(QPainter::Antialiasing);
-    shade.fillPath(shapes.translated(-area.topLeft()), QColor(0, 0, 0, 150));
-    shade.end();
-    painter.drawImage(area.topLeft() + drop, blurred(shadow, softness));
+    paintSoft(painter, shapes.translated(drop), qRgba(0, 0, 0, 150), softness);
     painter.fillPath(shapes, palette::colour(ink));
 }
 

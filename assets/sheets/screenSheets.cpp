@@ -1,5 +1,6 @@
 #include "assets/art/palette.h"
 #include "assets/art/shapes.h"
+#include "assets/art/softShape.h"
 #include "assets/lock/lockPainter.h"
 #include "assets/previews/phoneParts.h"
 #include "assets/sheets/sheets.h"
@@ -67,9 +68,7 @@ constexpr QRgb body = 0xff1b1c1f;
 void paintPhone(QPainter& painter, const QRectF& screen, const QImage& picture) {
     constexpr double drop = 10;
     const QRectF outside = screen.adjusted(-bezel, -bezel, bezel, bezel);
-    for (double reach = 22; reach > 0; reach -= 2)
-        drawRounded(painter, outside.adjusted(-reach, -reach + drop, reach, reach + drop), outerRadius + reach,
-                    qRgba(0, 0, 0, 3));
+    paintGlow(painter, roundedPath(outside.translated(0, drop), outerRadius), qRgba(0, 0, 0, 33), 22);
     drawRounded(painter, outside, outerRadius, body);
     paintCovering(painter, screen, innerRadius, picture);
 }

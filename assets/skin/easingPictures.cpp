@@ -79,7 +79,7 @@ void drawCurve(QPainter& painter, const EasingCurve& curve) {
     QPainterPath path(curvePoint(curve, 0));
     for (int piece = 1; piece <= pieces; ++piece)
         path.lineTo(curvePoint(curve, static_cast<double>(piece) / pieces));
-    painter.strokePath(path, QPen(token::accent, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.strokePath(path, roundPen(QColor(token::accent), 2));
 }
 
 /// All that stands still.

@@ -2,6 +2,7 @@
 
 #include "assets/art/palette.h"
 #include "assets/art/picture.h"
+#include "assets/art/shapes.h"
 #include "assets/skin/phoneInk.h"
 
 namespace zdt::assets {
@@ -10,17 +11,11 @@ namespace {
 
 constexpr double glass = 0.2;
 
-QRectF squareAround(QPointF middle, double side) {
-    return {middle.x() - side / 2, middle.y() - side / 2, side, side};
-}
-
 void drawSolid(QPainter& painter, PhoneInk& ink, QPointF middle, char32_t sign) {
     constexpr double discSide = 106; ///< Leaves room for the shadow.
     constexpr double signSide = 76;
-    QPainterPath disc;
-    disc.addEllipse(squareAround(middle, discSide));
-    ink.fill(disc, 0.94);
-    painter.fillPath(signOutline(sign, squareAround(middle, signSide)), palette::colour(palette::ink));
+    ink.fill(discOutline(middle, discSide / 2), 0.94);
+    painter.fillPath(signOutline(sign, squareAt(middle, signSide)), palette::colour(palette::ink));
 }
 
 } // namespace
@@ -40,7 +35,7 @@ QImage drawMusicPicture(const MusicPicture& picture) {
         ink.sign(picture.sign, middle, signSide);
         break;
     case MusicFace::pressed:
-        ink.glass(squareAround(middle, pressedSide), pressedSide / 2, glass);
+        ink.glass(squareAt(middle, pressedSide), pressedSide / 2, glass);
         ink.sign(picture.sign, middle, signSide);
         break;
     case MusicFace::solid:

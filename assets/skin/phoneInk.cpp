@@ -1,28 +1,12 @@
 #include "assets/skin/phoneInk.h"
 
 #include "assets/art/palette.h"
+#include "assets/art/shapes.h"
+#include "assets/art/softShape.h"
 
 #include <QPainter>
 
-#include <cmath>
-
 namespace zdt::assets {
-
-namespace {
-
-/// A blurred outline: strokes that grow by a pixel, each a little darker where it lies over the others.
-void drawShadow(QPainter& painter, const QPainterPath& shape, double strength, double reach) {
-    constexpr double darkest = 0.25;
-    const int strokes = static_cast<int>(std::ceil(reach));
-    QColor shadow(Qt::black);
-    shadow.setAlphaF(static_cast<float>(darkest * strength / strokes));
-    for (int each = 1; each <= strokes; ++each) {
-        const QPen pen(shadow, 2 * reach * each / strokes, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-        painter.strokePath(shape.translated(0, reach / 4), pen);
-    }
-}
-
-} // namespace
 
 QColor PhoneInk::colour(double strength) const {
     QColor ink = _tone == Tone::tint ? palette::colour(palette::paper) : palette::colour(palette::ink);
@@ -32,7 +16,7 @@ QColor PhoneInk::colour(double strength) const {
 
 void PhoneInk::fill(const QPainterPath& shape, double strength, double reach) {
     if (_tone == Tone::tint)
-        drawShadow(_painter, shape, strength, reach);
+        paintGlow(_painter, shape.translated(0, reach / 4), qRgba(0, 0, 0, qRound(80 * strength)), reach);
     _painter.fillPath(shape, colour(strength));
 }
 
@@ -55,13 +39,11 @@ void PhoneInk::text(const Lettering& lettering, QPointF anchor, const QString& w
 }
 
 void PhoneInk::sign(char32_t sign, QPointF middle, double side, double strength) {
-    fill(signOutline(sign, {middle.x() - side / 2, middle.y() - side / 2, side, side}), strength);
+    fill(signOutline(sign, squareAt(middle, side)), strength);
 }
 
 void PhoneInk::glass(const QRectF& area, double radius, double strength) {
-    QPainterPath shape;
-    shape.addRoundedRect(area, radius, radius);
-    _painter.fillPath(shape, colour(strength));
+    _painter.fillPath(roundedPath(area, radius), colour(strength));
 }
 
 } // namespace zdt::assets

@@ -1,6 +1,7 @@
 #include "assets/skin/statusOverlays.h"
 
 #include "assets/art/picture.h"
+#include "assets/art/shapes.h"
 #include "canvas/screens/screenIcons.h"
 
 namespace zdt::assets {
@@ -29,15 +30,12 @@ void drawStatusBar(PhoneInk& ink) {
 void drawHomeBar(PhoneInk& ink, int height) {
     constexpr double length = 390;
     constexpr double weight = 9;
-    QPainterPath bar;
-    bar.addRoundedRect({centre - length / 2, height - 24 - weight / 2, length, weight}, weight / 2, weight / 2);
-    ink.fill(bar, 0.9, 4);
+    ink.fill(roundedPath({centre - length / 2, height - 24 - weight / 2, length, weight}, weight / 2), 0.9, 4);
 }
 
 void drawShortcut(PhoneInk& ink, char32_t sign, QPointF middle) {
     constexpr double disc = 128;
-    ink.glass({middle.x() - disc / 2, middle.y() - disc / 2, disc, disc}, disc / 2,
-              ink.tone() == Tone::tint ? 0.2 : 0.1);
+    ink.glass(squareAt(middle, disc), disc / 2, ink.tone() == Tone::tint ? 0.2 : 0.1);
     ink.sign(sign, middle, 60);
 }
 
@@ -56,8 +54,7 @@ void drawTrack(PhoneInk& ink, int height) {
     const QRectF track(centre - length / 2, middle - weight / 2, length, weight);
     const QRectF knob(track.left() + gap, track.top() + gap, weight - 2 * gap, weight - 2 * gap);
     ink.glass(track, weight / 2, ink.tone() == Tone::tint ? 0.2 : 0.1);
-    QPainterPath disc;
-    disc.addEllipse(knob);
+    const QPainterPath disc = discOutline(knob.center(), knob.width() / 2);
     const QPainterPath arrow = signOutline(sign::chevronRight, knob.adjusted(20, 20, -20, -20));
     ink.fill(disc.subtracted(arrow), 0.94);
     ink.text({{interFace, 400}, 40, Side::middle, 0.9}, {centre + weight / 4, middle}, "Slide to unlock");

@@ -1,3 +1,4 @@
+#include "assets/art/shapes.h"
 #include "assets/wallpapers/motifs.h"
 #include "assets/wallpapers/noise.h"
 #include "assets/wallpapers/paperSheet.h"
@@ -183,9 +184,7 @@ QPainterPath cloud(QPointF middle, double width) {
 }
 
 QPainterPath disc(double radius) {
-    QPainterPath path;
-    path.addEllipse(QPointF(0.09, 0.50), radius, radius);
-    return path;
+    return discOutline({0.09, 0.50}, radius);
 }
 
 } // namespace
