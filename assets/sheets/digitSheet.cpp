@@ -28,7 +28,7 @@ bool isDigit(const std::string& name) {
 }
 
 bool isWide(const std::string& name) {
-    return name.starts_with("card_") || name.starts_with("music_bg") || name.starts_with("slide_track");
+    return name.find("card_") != std::string::npos || name.starts_with("music_bg") || name.starts_with("slide_track");
 }
 
 constexpr std::array<Group, 5> groups{{

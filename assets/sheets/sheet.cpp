@@ -167,7 +167,7 @@ void paintCovering(QPainter& painter, const QRectF& place, double radius, const 
 }
 
 bool isFaint(const QImage& picture) {
-    constexpr int leastContrast = 16;
+    constexpr int leastContrast = 26;
     const QImage pixels = picture.convertToFormat(QImage::Format_ARGB32);
     double contrast = 0;
     int painted = 0;
