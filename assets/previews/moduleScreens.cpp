@@ -19,13 +19,18 @@ constexpr int keyRise = phoneHeight - static_cast<int>(screenHeight) + keyBarHei
 struct Cut {
     std::string_view screen;
     int from;
-    int to; ///< Exclusive.
+    int to; ///< Exclusive. Where it is `from`, what stands below moves nearer to what stands above.
     int rise;
 };
 
 /// The rises of a screen add up to what it lacks in height.
-constexpr std::array<Cut, 5> cuts{{
-    {"dial", 590, 930, keyRise},                           // two calls
+constexpr std::array<Cut, 10> cuts{{
+    {"dial", 260, 260, 24}, // below the title
+    {"dial", 415, 415, 13}, // around the lines between calls
+    {"dial", 450, 450, 13},
+    {"dial", 583, 583, 13},
+    {"dial", 618, 618, 13},
+    {"dial", 744, 930, keyRise - 76},                      // the last call
     {"drop down notification", 1344, 1590, 246},           // the second notice
     {"drop down notification", 1690, 1730, keyRise - 246}, // above the volume
     {"MMS", 276, 360, keyRise - 228},                      // the date
