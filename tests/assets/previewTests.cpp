@@ -1,3 +1,4 @@
+#include "assets/lock/lockLook.h"
 #include "assets/previews/moduleScreens.h"
 #include "assets/previews/phoneParts.h"
 #include "assets/previews/previewWriter.h"
@@ -5,6 +6,8 @@
 #include "canvas/screens/screenTable.h"
 
 #include <gtest/gtest.h>
+
+#include <QImage>
 
 #include <algorithm>
 #include <cstdlib>
@@ -20,7 +23,54 @@ std::string text(const QByteArray& bytes) {
     return bytes.toStdString();
 }
 
+QImage picture(const assets::Generation& generation, const std::string& path) {
+    return QImage(QString::fromStdString(templatePath(generation.index) + path)).convertToFormat(QImage::Format_ARGB32);
+}
+
+/// The mean difference of a channel between a picture's opaque pixels and what a screen shows with its corner at a
+/// place; 255 if there is too little to compare.
+double difference(const QImage& screen, QPoint corner, const QImage& shown) {
+    constexpr int least = 2000;
+    int sum = 0;
+    int pixels = 0;
+    for (int y = 0; y < shown.height(); ++y) {
+        for (int x = 0; x < shown.width(); ++x) {
+            const QRgb own = shown.pixel(x, y);
+            if (qAlpha(own) < 255 || !screen.valid(corner + QPoint(x, y)))
+                continue;
+            const QRgb there = screen.pixel(corner + QPoint(x, y));
+            sum += std::abs(qRed(own) - qRed(there)) + std::abs(qGreen(own) - qGreen(there)) +
+                   std::abs(qBlue(own) - qBlue(there));
+            ++pixels;
+        }
+    }
+    return pixels < least ? 255 : sum / 3.0 / pixels;
+}
+
 } // namespace
+
+TEST(Previews, ShowTheIconsAndDigitsOfTheirTemplate) {
+    constexpr double mostByCompression = 4;
+    for (const assets::Generation& generation : assets::generations) {
+        const QImage page = picture(generation, "preview/preview_icons_0.jpg");
+        const QPoint firstIcon(75, assets::hasKeys(generation) ? 140 : 156);
+        const QRect middle(48, 48, 96, 96);
+        int column = 0;
+        for (const char* name : {"android.gallery3d", "zendro.android.totemweather", "android.calendar"}) {
+            const QImage icon = picture(generation, "icons/com." + std::string(name) + ".png").copy(middle);
+            const QPoint corner = firstIcon + middle.topLeft() + QPoint(246 * column++, 0);
+            EXPECT_LT(difference(page, corner, icon), mostByCompression) << generation.version << name;
+        }
+        const QImage cover = picture(generation, "preview/cover.jpg");
+        const int clockLeft = assets::lookOf(generation.language).isCentred ? 153 : 47;
+        for (int digit = 0; digit < 2; ++digit) { // Of 08:08.
+            const char* file = digit ? "number_8.png" : "number_0.png";
+            const QImage ink = picture(generation, std::string("unlock_amazing/drawable-hdpi/") + file);
+            const QPoint corner(clockLeft + digit * assets::lockDigit.width, 100);
+            EXPECT_LT(difference(cover, corner, ink), mostByCompression) << generation.version << file;
+        }
+    }
+}
 
 TEST(Previews, OfATemplateAreOneOfEachModuleAndMoreContactsFromGeneration9) {
     for (unsigned generation = 0; generation < generationCount; ++generation) {
