@@ -16,6 +16,10 @@ bool writePicture(const std::string& path, const QByteArray& bytes, const char* 
         return true;
     if (!content.empty() && makePath(path) && writeFile(path, content))
         return true;
+    return complain(path, program);
+}
+
+bool complain(const std::string& path, const char* program) {
     std::fprintf(stderr, "%s: can't make %s\n", program, path.c_str());
     return false;
 }

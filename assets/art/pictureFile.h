@@ -11,4 +11,7 @@ namespace zdt::assets {
 /// it can't be written.
 [[nodiscard]] bool writePicture(const std::string& path, const QByteArray& bytes, const char* program);
 
+/// Says on standard error what a program can't make; false.
+bool complain(const std::string& path, const char* program);
+
 } // namespace zdt::assets

@@ -1,17 +1,16 @@
 #include "assets/previews/previewWriter.h"
 
 #include "assets/art/picture.h"
+#include "assets/art/pictureFile.h"
 #include "assets/lock/lockPainter.h"
 #include "assets/previews/homePages.h"
 #include "assets/previews/moduleScreens.h"
 #include "assets/previews/phoneParts.h"
 #include "assets/previews/smallIcons.h"
 #include "model/fileResNode.h"
-#include "support/files.h"
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 
 namespace zdt::assets {
 
@@ -50,16 +49,11 @@ bool isOf(const PreviewRow& row, const Generation& generation) {
     return (row.absentFrom & generation.bit()) == 0;
 }
 
-bool complain(const std::string& path) {
-    std::fprintf(stderr, "zdt_previews: can't make %s\n", path.c_str());
-    return false;
-}
+constexpr const char* program = "zdt_previews";
 
 bool writePreview(const PreviewSource& source, const std::string& name) {
     const std::string path = source.templateDirectory + "preview/" + name;
-    const QByteArray bytes = drawPreview(source, name);
-    const std::string_view content(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    return (!content.empty() && makePath(path) && writeFile(path, content)) || complain(path);
+    return writePicture(path, drawPreview(source, name), program);
 }
 
 } // namespace
@@ -88,7 +82,7 @@ bool writePreviews(const std::string& templates, const std::string& skin) {
     for (const Generation& generation : generations) {
         const auto theme = store.makeTheme(generation);
         if (!theme)
-            return complain(std::string(generation.version));
+            return complain(std::string(generation.version), program);
         const PreviewSource source = store.source(*theme, generation);
         if (!std::ranges::all_of(previewNames(generation),
                                  [&](const std::string& name) { return writePreview(source, name); }))

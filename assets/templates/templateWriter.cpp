@@ -2,6 +2,7 @@
 
 #include "assets/art/generation.h"
 #include "assets/art/picture.h"
+#include "assets/art/pictureFile.h"
 #include "assets/lock/lockPictures.h"
 #include "assets/lock/lockScreen.h"
 #include "assets/templates/demands.h"
@@ -10,12 +11,10 @@
 #include "model/configResNode.h"
 #include "model/template.h"
 #include "modules/themeNode.h"
-#include "support/atomicFile.h"
 #include "support/files.h"
 #include "support/parallel.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <functional>
 #include <iterator>
 #include <vector>
@@ -30,10 +29,7 @@ struct Job {
     std::function<QByteArray()> picture;
 };
 
-bool complain(const std::string& path) {
-    std::fprintf(stderr, "zdt_assets: can't make %s\n", path.c_str());
-    return false;
-}
+constexpr const char* program = "zdt_assets";
 
 QByteArray encode(const Demand& demand, const Generation& generation) {
     const QImage picture = draw(demand, generation);
@@ -54,9 +50,7 @@ void addJobs(std::vector<Job>& jobs, const std::string& directory, const Generat
 }
 
 bool run(const Job& job) {
-    const QByteArray bytes = job.picture();
-    const std::string_view content(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    return (!content.empty() && makePath(job.path) && writeFile(job.path, content)) || complain(job.path);
+    return writePicture(job.path, job.picture(), program);
 }
 
 bool runAll(const std::vector<Job>& jobs) {
@@ -94,7 +88,7 @@ bool writeTemplates(const std::string& directory, std::span<const Generation> wa
     for (const Generation& generation : wanted) {
         const std::string target = directory + templateDirectory(generation.index);
         if (!removeTree(target) || !writeTexts(target, generation))
-            return complain(target);
+            return complain(target, program);
         addJobs(jobs, target, generation);
     }
     return runAll(jobs);
