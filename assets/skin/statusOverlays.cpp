@@ -1,6 +1,8 @@
 #include "assets/skin/statusOverlays.h"
 
 #include "assets/art/picture.h"
+#include "assets/art/shownMoment.h"
+#include "assets/art/statusBar.h"
 #include "canvas/screens/screenIcons.h"
 
 namespace zdt::assets {
@@ -11,18 +13,11 @@ constexpr int width = 1080;
 constexpr double centre = width / 2.0;
 constexpr double margin = 72;
 
-constexpr const char* time = "08:08";
-constexpr const char* date = "Mon, Oct 16";
-
 void drawStatusBar(PhoneInk& ink) {
-    constexpr double middle = 38;
-    constexpr double side = 40;
-    constexpr Lettering words{{interFace, 500}, 31, Side::right};
-    ink.sign(sign::signalCellularAlt, {64, middle}, side);
-    ink.sign(sign::wifi, {110, middle}, side);
-    ink.text(words, {width - 48, middle}, time);
-    ink.sign(sign::batteryFull, {918, middle}, side);
-    ink.text(words, {896, middle}, "84%");
+    constexpr int battery = 84;
+    const StatusBar bar = statusBarOutline(shownTime, battery);
+    ink.fill(bar.emptyCell, StatusBar::emptyStrength);
+    ink.fill(bar.ink);
 }
 
 /// By which the newer phones are left: at the screen's lower edge.
@@ -66,8 +61,8 @@ void drawTrack(PhoneInk& ink, int height) {
 void drawSlide(PhoneInk& ink, const StatusOverlay& overlay) {
     const int height = overlay.height;
     const bool isNew = overlay.era == Era::from9;
-    ink.text({{interDisplayFace, isNew ? 200 : 300}, 264}, {centre, isNew ? 344.0 : 316.0}, time);
-    ink.text({{interFace, 400}, 46}, {centre, isNew ? 520.0 : 492.0}, date);
+    ink.text({{interDisplayFace, isNew ? 200 : 300}, 264}, {centre, isNew ? 344.0 : 316.0}, shownTime);
+    ink.text({{interFace, 400}, 46}, {centre, isNew ? 520.0 : 492.0}, shownDate);
     if (!isNew) {
         drawTrack(ink, height);
         return;
@@ -111,8 +106,8 @@ void drawVeil(QPainter& painter, Tone tone, int height) {
 void drawMagazine(PhoneInk& ink, QPainter& painter, const StatusOverlay& overlay) {
     const int height = overlay.height;
     const bool isNew = overlay.era == Era::from9;
-    ink.text({{interDisplayFace, isNew ? 200 : 300}, 176, Side::left}, {margin, 224}, time);
-    ink.text({{interFace, 400}, 40, Side::left}, {margin + 4, 344}, date);
+    ink.text({{interDisplayFace, isNew ? 200 : 300}, 176, Side::left}, {margin, 224}, shownTime);
+    ink.text({{interFace, 400}, 40, Side::left}, {margin + 4, 344}, shownDate);
     drawVeil(painter, overlay.tone, height);
     drawStory(ink, {margin, height - (isNew ? 350.0 : 314.0), width - 2 * margin, 250});
 }

@@ -1,6 +1,6 @@
 #include "assets/art/generation.h"
+#include "assets/art/statusBar.h"
 #include "assets/lock/lockPainter.h"
-#include "assets/lock/statusBar.h"
 #include "assets/templateTheme.h"
 #include "lockscreen/geometry.h"
 #include "lockscreen/layoutDocument.h"
