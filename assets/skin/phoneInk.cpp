@@ -58,10 +58,10 @@ void PhoneInk::sign(char32_t sign, QPointF middle, double side, double strength)
     fill(signOutline(sign, {middle.x() - side / 2, middle.y() - side / 2, side, side}), strength);
 }
 
-void PhoneInk::glass(const QRectF& area, double radius, double strength) {
+void PhoneInk::glass(const QRectF& area, double radius, const QColor& colour) {
     QPainterPath shape;
     shape.addRoundedRect(area, radius, radius);
-    _painter.fillPath(shape, colour(strength));
+    _painter.fillPath(shape, colour);
 }
 
 } // namespace zdt::assets

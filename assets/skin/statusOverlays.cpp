@@ -32,7 +32,7 @@ void drawHomeBar(PhoneInk& ink, int height) {
 void drawShortcut(PhoneInk& ink, char32_t sign, QPointF middle) {
     constexpr double disc = 128;
     ink.glass({middle.x() - disc / 2, middle.y() - disc / 2, disc, disc}, disc / 2,
-              ink.tone() == Tone::tint ? 0.2 : 0.1);
+              ink.colour(ink.tone() == Tone::tint ? 0.2 : 0.1));
     ink.sign(sign, middle, 60);
 }
 
@@ -50,7 +50,8 @@ void drawTrack(PhoneInk& ink, int height) {
     const double middle = height - 236.0;
     const QRectF track(centre - length / 2, middle - weight / 2, length, weight);
     const QRectF knob(track.left() + gap, track.top() + gap, weight - 2 * gap, weight - 2 * gap);
-    ink.glass(track, weight / 2, ink.tone() == Tone::tint ? 0.2 : 0.1);
+    // Dark words need bright glass: a bright picture may have dark slopes there.
+    ink.glass(track, weight / 2, ink.tone() == Tone::tint ? ink.colour(0.2) : QColor(255, 255, 255, 115));
     QPainterPath disc;
     disc.addEllipse(knob);
     const QPainterPath arrow = signOutline(sign::chevronRight, knob.adjusted(20, 20, -20, -20));
