@@ -43,14 +43,18 @@ QRectF contentArea(const QImage& drawn, const QSize& size) {
                   size.height() - (drawn.height() - 2) + down.length);
 }
 
-void paintStretched(QPainter& painter, const QRectF& place, const NinePatch& patch, const QImage& drawn,
-                    const QSize& size) {
-    const double scale = std::min({1.0, place.width() / size.width(), place.height() / size.height()});
+/// Fills a place as far as it is stretched. All of a picture's forms are scaled alike, so that their corners compare.
+void paintStretched(QPainter& painter, const QRectF& place, const NinePatch& patch, const QImage& drawn, double scale,
+                    bool inBoth) {
+    const QSize room = (place.size() / scale).toSize();
+    const QSize own = patch.picture.size();
+    const QSize size(std::max(own.width(), room.width()),
+                     inBoth ? std::max(own.height(), room.height()) : own.height());
+    paintFitted(painter, place, stretched(patch, size));
     painter.save();
-    painter.translate(place.center().toPoint());
+    painter.translate(place.center());
     painter.scale(scale, scale);
-    painter.translate(-size.width() / 2, -size.height() / 2);
-    painter.drawImage(0, 0, stretched(patch, size));
+    painter.translate(-size.width() / 2.0, -size.height() / 2.0);
     painter.setPen(QPen(QColor(0xe5, 0x29, 0x8c), 1.5 / scale, Qt::DashLine));
     painter.drawRect(contentArea(drawn, size));
     painter.restore();
@@ -64,17 +68,17 @@ void paintNinePatch(QPainter& painter, const QRectF& cell, const TemplateFolder&
     if (drawn.isNull() || patch.picture.isNull())
         return;
     paintChecker(painter, ground, isFaint(patch.picture));
+    const auto column = [&](double start, double width) {
+        const double part = ground.width() / 10;
+        return QRectF(ground.left() + start * part, ground.top(), width * part, ground.height())
+            .adjusted(12, 12, -12, -12);
+    };
+    const QRectF first = column(0, 2.6);
+    const double scale = std::min({1.0, first.width() / drawn.width(), first.height() / drawn.height()});
+    paintFitted(painter, first, drawn);
+    paintStretched(painter, column(2.6, 4.4), patch, drawn, scale, false);
+    paintStretched(painter, column(7, 3), patch, drawn, scale, true);
     const QSize own = patch.picture.size();
-    const double part = ground.width() / 10;
-    paintFitted(painter, QRectF(ground.left(), ground.top(), part * 2.6, ground.height()).adjusted(12, 12, -12, -12),
-                drawn);
-    paintStretched(
-        painter,
-        QRectF(ground.left() + part * 2.6, ground.top(), part * 4.4, ground.height()).adjusted(12, 12, -12, -12), patch,
-        drawn, {std::max(own.width() * 2, 300), own.height()});
-    paintStretched(painter,
-                   QRectF(ground.left() + part * 7, ground.top(), part * 3, ground.height()).adjusted(12, 12, -12, -12),
-                   patch, drawn, {std::max(own.width(), 180), std::max(own.height() * 2, 180)});
     const QString name = QString("%1   %2 x %3").arg(shortName(path)).arg(own.width()).arg(own.height());
     paintName(painter, {cell.left(), cell.bottom() - 44, cell.width(), 34}, name);
 }

@@ -27,12 +27,17 @@ bool isDigit(const std::string& name) {
            name.starts_with("slide_colon");
 }
 
-constexpr std::array<Group, 4> groups{{
+bool isWide(const std::string& name) {
+    return name.find("card_") != std::string::npos || name.starts_with("music_bg") || name.starts_with("slide_track");
+}
+
+constexpr std::array<Group, 5> groups{{
     {"Dial keys", [](const std::string& name) { return isDialKey(name) && !isPressed(name); }, 6, 190, false},
     {"Dial keys, pressed", [](const std::string& name) { return isDialKey(name) && isPressed(name); }, 6, 190, false},
     {"Clocks of the lock screens", isDigit, 11, 300, true},
-    {"Other pictures of the lock screens", [](const std::string& name) { return !isDialKey(name) && !isDigit(name); },
-     8, 250, true},
+    {"Cards, panels and tracks of the lock screens", isWide, 2, 240, true},
+    {"Other pictures of the lock screens",
+     [](const std::string& name) { return !isDialKey(name) && !isDigit(name) && !isWide(name); }, 8, 250, true},
 }};
 
 bool isLockPicture(const std::string& path) {
@@ -43,6 +48,10 @@ std::string nameOf(const std::string& path) {
     return path.substr(path.rfind('/') + 1);
 }
 
+void paintOnPage(QPainter& painter, const QRectF& line, const QString& text) {
+    paintName(painter, line, text);
+}
+
 void addGroup(Sheet& sheet, const TemplateFolder& folder, const Group& group) {
     const auto paths = folder.files([&](const std::string& path) {
         const bool isKey = path.starts_with("com.") && isDialKey(nameOf(path));
@@ -51,12 +60,12 @@ void addGroup(Sheet& sheet, const TemplateFolder& folder, const Group& group) {
     if (paths.empty())
         return;
     sheet.addHeading(group.title);
-    const QRgb ink = group.isOnWallpaper ? folder.generation.lockInk : 0xff5c626b;
+    const auto paintLabel = group.isOnWallpaper ? paintPlate : paintOnPage;
     sheet.addGrid(
         paths.size(), group.columns, group.rowHeight,
         [=](QPainter& painter, const QRectF& cell, std::size_t index) {
             paintFitted(painter, cell.adjusted(6, 0, -6, -34), folder.picture(paths[index]));
-            paintName(painter, {cell.left(), cell.bottom() - 34, cell.width(), 34}, shortName(paths[index]), ink);
+            paintLabel(painter, {cell.left(), cell.bottom() - 34, cell.width(), 34}, shortName(paths[index]));
         },
         [folder, isOnWallpaper = group.isOnWallpaper](QPainter& painter, const QRectF& area) {
             if (isOnWallpaper)

@@ -17,11 +17,12 @@ struct Group {
     Sheet (*make)(const TemplateFolder&);
 };
 
-constexpr std::array<Group, 6> groups{{
+constexpr std::array<Group, 7> groups{{
     {"icons", iconSheet},
     {"digits", digitSheet},
     {"nine-patches", ninePatchSheet},
     {"symbols", symbolSheet},
+    {"lock", lockSheet},
     {"wallpapers", wallpaperSheet},
     {"previews", previewSheet},
 }};

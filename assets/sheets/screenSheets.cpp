@@ -73,6 +73,42 @@ void paintPhone(QPainter& painter, const QRectF& screen, const QImage& picture) 
     paintCovering(painter, screen, innerRadius, picture);
 }
 
+/// Cells with a phone each and what it shows.
+void addPhones(Sheet& sheet, const Generation& generation, const std::vector<Shot>& shots, int columns, double wide) {
+    const double high = wide * generation.screenHeight / screenWidth;
+    sheet.addGrid(shots.size(), columns, high + 110, [=](QPainter& painter, const QRectF& cell, std::size_t index) {
+        const QRectF screen(cell.center().x() - wide / 2, cell.top() + blockInset, wide, high);
+        paintPhone(painter, screen, shots[index].picture);
+        paintName(painter, {cell.left(), screen.bottom() + 28, cell.width(), 40}, shots[index].name);
+    });
+}
+
+struct LockShot {
+    const char* name;
+    LockScene scene;
+    LockForm form = LockForm::designed;
+};
+
+std::vector<LockShot> lockShots() {
+    LockScene charging;
+    charging.isCharging = true;
+    charging.messages = 2;
+    charging.calls = 1;
+    LockScene music;
+    music.showsMusic = true;
+    music.amPm = "AM";
+    music.hour = 11;
+    music.minute = 47;
+    music.calls = 3;
+    LockScene slide = music;
+    slide.ownerInfo = "Slide to unlock";
+    slide.messages = 1;
+    return {{"plain", {}},
+            {"charging, with messages and a call", charging},
+            {"music", music},
+            {"slide lock", slide, LockForm::slide}};
+}
+
 /// The screens in the order in which one meets them, then whatever else there is.
 std::vector<std::string> orderedScreens(const TemplateFolder& folder) {
     constexpr std::array<std::string_view, 6> modules{"unlock", "widget", "icons", "contacts", "mms", "systemui"};
@@ -89,6 +125,17 @@ std::vector<std::string> orderedScreens(const TemplateFolder& folder) {
 
 } // namespace
 
+Sheet lockSheet(const TemplateFolder& folder) {
+    const QSize phone(static_cast<int>(screenWidth), folder.generation.screenHeight);
+    std::vector<Shot> shots;
+    for (const LockShot& shot : lockShots())
+        shots.push_back(
+            {shot.name, paintLockScreen(folder.directory, phone, folder.generation, shot.scene, shot.form)});
+    Sheet sheet(folder.generation, "Lock screens");
+    addPhones(sheet, folder.generation, shots, 4, 420);
+    return sheet;
+}
+
 Sheet wallpaperSheet(const TemplateFolder& folder) {
     const QSize phone(static_cast<int>(screenWidth), folder.generation.screenHeight);
     Sheet sheet(folder.generation, "Wallpapers");
@@ -101,14 +148,11 @@ Sheet wallpaperSheet(const TemplateFolder& folder) {
 Sheet previewSheet(const TemplateFolder& folder) {
     const auto paths = orderedScreens(folder);
     const int columns = paths.size() > 6 ? 4 : 6;
-    const double wide = columns == 4 ? 390 : 266;
-    const double high = wide * folder.generation.screenHeight / screenWidth;
+    std::vector<Shot> screens;
+    for (const std::string& path : paths)
+        screens.push_back({shortName(path), folder.picture(path)});
     Sheet sheet(folder.generation, "Previews");
-    sheet.addGrid(paths.size(), columns, high + 110, [=](QPainter& painter, const QRectF& cell, std::size_t index) {
-        const QRectF screen(cell.center().x() - wide / 2, cell.top() + blockInset, wide, high);
-        paintPhone(painter, screen, folder.picture(paths[index]));
-        paintName(painter, {cell.left(), screen.bottom() + 28, cell.width(), 40}, shortName(paths[index]));
-    });
+    addPhones(sheet, folder.generation, screens, columns, columns == 4 ? 390 : 266);
     addShots(sheet, {{"cover", folder.picture("preview/cover.jpg")},
                      {"icon_small", folder.picture("preview/icon_small.jpg")},
                      {"icon_small_1", folder.picture("preview/icon_small_1.jpg")}});

@@ -20,7 +20,10 @@ constexpr QRgb titleInk = 0xff1b1e23;
 constexpr QRgb noteInk = 0xff7a818b;
 constexpr QRgb lightSquare = 0xffd9dde3;
 constexpr QRgb darkSquare = 0xff525964;
+constexpr QRgb plateColour = 0xb01b1e23;
 constexpr double blockGap = 28;
+constexpr Face nameFace{interFace, 400};
+constexpr int namePixels = 17;
 
 const char* nameOf(Language language) {
     switch (language) {
@@ -108,13 +111,22 @@ QImage Sheet::paint() const {
 }
 
 void paintName(QPainter& painter, const QRectF& line, const QString& text, QRgb ink) {
-    constexpr Face face{interFace, 400};
-    constexpr int pixels = 17;
-    const QFontMetricsF metrics(makeFont(face, pixels));
+    const QFontMetricsF metrics(makeFont(nameFace, namePixels));
     const QString shown = metrics.elidedText(text, Qt::ElideMiddle, line.width() - 8);
     const QPointF start(line.center().x() - metrics.horizontalAdvance(shown) / 2,
                         line.center().y() + metrics.capHeight() / 2);
-    paintText(painter, start, face, pixels, shown, ink);
+    paintText(painter, start, nameFace, namePixels, shown, ink);
+}
+
+void paintPlate(QPainter& painter, const QRectF& line, const QString& text) {
+    constexpr double height = 28;
+    constexpr double inset = 10;
+    const double length = QFontMetricsF(makeFont(nameFace, namePixels)).horizontalAdvance(text);
+    QRectF plate(0, 0, std::min(line.width() - 4, length + 2 * inset), height);
+    plate.moveCenter(line.center());
+    painter.setBrush(palette::colour(plateColour));
+    painter.drawRoundedRect(plate, height / 2, height / 2);
+    paintName(painter, plate.adjusted(inset - 4, 0, 4 - inset, 0), text, 0xffffffff);
 }
 
 void paintChecker(QPainter& painter, const QRectF& area, bool dark) {
@@ -155,7 +167,7 @@ void paintCovering(QPainter& painter, const QRectF& place, double radius, const 
 }
 
 bool isFaint(const QImage& picture) {
-    constexpr int leastContrast = 16;
+    constexpr int leastContrast = 26;
     const QImage pixels = picture.convertToFormat(QImage::Format_ARGB32);
     double contrast = 0;
     int painted = 0;

@@ -43,6 +43,9 @@ private:
 /// A small line of text in the middle of a place, cut with an ellipsis where it is too long.
 void paintName(QPainter& painter, const QRectF& line, const QString& text, QRgb ink = 0xff5c626b);
 
+/// The same in white on a dark plate, for a ground of any lightness.
+void paintPlate(QPainter& painter, const QRectF& line, const QString& text);
+
 /// The ground on which see-through pictures are seen.
 void paintChecker(QPainter& painter, const QRectF& area, bool dark = false);
 

@@ -14,6 +14,8 @@ namespace zdt::assets {
 [[nodiscard]] Sheet ninePatchSheet(const TemplateFolder& folder);
 /// Plain pictures of controls.
 [[nodiscard]] Sheet symbolSheet(const TemplateFolder& folder);
+/// The lock screens on phones: plain, charging, with music, and the slide lock.
+[[nodiscard]] Sheet lockSheet(const TemplateFolder& folder);
 /// Wallpapers with a clock on them.
 [[nodiscard]] Sheet wallpaperSheet(const TemplateFolder& folder);
 /// Previews on phones.

@@ -21,20 +21,33 @@ void threadPage(ScreenBuilder& b) {
     b.leaveOut(0);
 }
 
-/// A message's bubble, the corner beside its writer sharp. Before generation 9 the own ones are a picture.
-void bubble(ScreenBuilder& b, const std::string& name, const Place& place, bool own) {
-    constexpr int radius = 48;
-    const unsigned corners = corner::all & ~(own ? corner::topRight : corner::topLeft);
-    if (own) {
-        b.leaveOut(before9);
-        b.picture("mms/v_bg_2.9.png", {place.x, place.y, place.width + 12, place.height + 6});
-        b.leaveOut(only9);
-        b.panel(name + "_bubble", place, radius, sent, corners);
-        b.leaveOut(0);
-        return;
-    }
-    b.panel(name + "_bubble", place, radius, received, corners);
-    b.ring(name + "_edge", place, radius, 3, line).drawing.corners = corners;
+constexpr int bubbleRadius = 48;
+/// What the pictures of bubbles need beside and below for tail and shadow.
+constexpr int tailWidth = 12;
+constexpr int tailHeight = 6;
+
+/// A bubble whose corner beside its writer is sharp.
+void receivedBubble(ScreenBuilder& b, const std::string& name, const Place& place) {
+    constexpr unsigned corners = corner::all & ~corner::topLeft;
+    b.panel(name + "_bubble", place, bubbleRadius, received, corners);
+    b.ring(name + "_edge", place, bubbleRadius, 3, line).drawing.corners = corners;
+}
+
+/// As the received ones of a conversation are: a picture before generation 9.
+void talkBubble(ScreenBuilder& b, const std::string& name, const Place& place) {
+    b.leaveOut(before9);
+    b.picture("mms/v_bg_1.9.png", {place.x - tailWidth, place.y, place.width + tailWidth, place.height + tailHeight});
+    b.leaveOut(only9);
+    receivedBubble(b, name, place);
+    b.leaveOut(0);
+}
+
+void ownBubble(ScreenBuilder& b, const std::string& name, const Place& place) {
+    b.leaveOut(before9);
+    b.picture("mms/v_bg_2.9.png", {place.x, place.y, place.width + tailWidth, place.height + tailHeight});
+    b.leaveOut(only9);
+    b.panel(name + "_bubble", place, bubbleRadius, sent, corner::all & ~corner::topRight);
+    b.leaveOut(0);
 }
 
 /// A received message's line, whose text follows another item before generation 9.
@@ -76,9 +89,9 @@ void voiceMessages(ScreenBuilder& b) {
 void writtenMessages(ScreenBuilder& b) {
     b.text("date", {240, 318, 600}, {"Today 17:20", "今天 17:20"}, noteMiddle, second);
     b.portrait("face1", {99, 432}, 96, 4);
-    bubble(b, "asked", {168, 372, 678, 120}, false);
+    talkBubble(b, "asked", {168, 372, 678, 120});
     receivedLine(b, "asked_text", {216, 432, 588}, {"Are you on the train yet?", "你上火车了吗？"}, messageText);
-    bubble(b, "told", {366, 522, 654, 186}, true);
+    ownBubble(b, "told", {366, 522, 654, 186});
     b.text("told_text1", {414, 582, 564}, {"Just left. All the fields are", "刚刚出发，"}, messageText, sentText);
     b.text("told_text2", {414, 648, 564}, {"yellow now, look at this", "路边的田野全黄了，你看"}, messageText,
            sentText);
@@ -227,11 +240,11 @@ void cardPoints(ScreenBuilder& b, int middle) {
 }
 
 void answers(ScreenBuilder& b) {
-    bubble(b, "link", {48, 1284, 696, 186}, false);
+    receivedBubble(b, "link", {48, 1284, 696, 186});
     receivedLine(b, "link_text", {96, 1344, 600}, {"Your seat on the map:", "您的座位图在这里："}, messageText);
     b.text("link_address", {96, 1410, 530}, {"rail.example/seat/12F", "rail.example/seat/12F"}, messageText, accent);
     b.icon("link_open", {678, 1410}, 48, sign::openInNew, accent);
-    bubble(b, "thanks", {576, 1500, 444, 120}, true);
+    ownBubble(b, "thanks", {576, 1500, 444, 120});
     b.text("thanks_text", {624, 1560, 366}, {"Got it, thanks", "收到，谢谢"}, messageText, sentText);
     b.text("thanks_state", {672, 1662, 348}, {"Delivered 09:43", "09:43 已送达"}, noteRight, second);
 }
