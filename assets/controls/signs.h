@@ -25,7 +25,8 @@ struct LineSign {
 };
 
 /// Draws one in a square box, with lines of `lineWidth` pixels.
+/// @param corner where a corner's curve begins, in pixels before it
 void drawLineSign(QPainter& painter, const LineSign& sign, const QRectF& box, QRgb colour, double lineWidth,
-                  const ControlStyle& style);
+                  const ControlStyle& style, double corner = 0);
 
 } // namespace zdt::assets

@@ -18,6 +18,8 @@ namespace {
 
 /// Of a tile, what a sign's em square takes.
 constexpr double usualPart = 0.58;
+/// Where the corners of the round ones of the pages' drawings begin, as a part of the picture's side.
+constexpr double pageCorner = 0.12;
 
 /// What a picture is drawn with.
 struct Work {
@@ -87,6 +89,15 @@ void drawGround(const Work& work, const QPainterPath& form) {
     castInside(painter, work.size(), form, work.style.edgeLight);
 }
 
+/// The round languages' sign of all applications.
+void drawNineDots(const Work& work, const QRectF& box) {
+    const double step = box.width() / 3.4;
+    work.canvas.painter().setBrush(palette::colour(work.row.colour));
+    for (int index = 0; index < 9; ++index)
+        work.canvas.painter().drawEllipse(box.center() + QPointF(index % 3 - 1, index / 3 - 1) * step, 0.3 * step,
+                                          0.3 * step);
+}
+
 /// The sign or the drawing of the row on a ground, with its shadow if the ground is bright.
 void drawOn(const Work& work, const QRectF& ground, double part) {
     QPainter& painter = work.canvas.painter();
@@ -96,6 +107,10 @@ void drawOn(const Work& work, const QRectF& ground, double part) {
         return;
     }
     const QRectF box = middlePart(ground, part);
+    if (work.row.sign == sign::apps && work.generation.language != Language::paper) {
+        drawNineDots(work, box);
+        return;
+    }
     if (isBright(work.row.ground)) {
         const std::array shadow{scaled(work.style.signShadow[0], ground.width() / 100)};
         castOutside(painter, work.size(), signOutline(work.row.sign, box), shadow);
@@ -160,7 +175,7 @@ void drawShape(const Work& work) {
         break;
     case SymbolShape::drawing:
         drawLineSign(work.canvas.painter(), work.row.drawing, area, work.row.colour, 2.5 * work.style.lineWidth,
-                     work.style);
+                     work.style, pageCorner * work.side() * work.generation.controlRadius);
         break;
     case SymbolShape::disc:
         drawMark(work, Language::dune);

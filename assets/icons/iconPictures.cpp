@@ -4,6 +4,7 @@
 #include "assets/icons/iconTable.h"
 #include "assets/icons/signShapes.h"
 #include "assets/icons/tile.h"
+#include "modules/iconsNode.h"
 
 #include <algorithm>
 
@@ -55,6 +56,8 @@ bool paintNamed(QPainter& painter, std::string_view name, const Generation& gene
         painter.fillPath(tileShape(generation.language), Qt::white);
     else if (name == "icon_border.png")
         paintBorder(painter, Material(generation, Hue::steel));
+    else if (name == iconBackgroundName(0))
+        paintBlank(painter, Material(generation, Hue::steel));
     else if (name == tables::calendarBackground)
         paintDrawn(rowOf("com.android.calendar.png")->hue, drawn::calendarPage);
     else if (name == tables::clockBackground)

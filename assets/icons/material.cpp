@@ -141,6 +141,11 @@ QBrush Material::ground() const {
     return shaded(language() == Language::dune ? cream : _own, tileTop, iconSide - tileTop);
 }
 
+QBrush Material::blank() const {
+    return shaded(pick(language(), plain(offWhite), cream, {0xffffffff, mix(0xffffffff, _own.top, 0.42)}), tileTop,
+                  iconSide - tileTop);
+}
+
 QBrush Material::main() const {
     return onSign(pick(language(), plain(offWhite), _own, {0xffffffff, 0xe0ffffff}));
 }

@@ -59,6 +59,7 @@ public:
     [[nodiscard]] double line() const;     ///< The width of a sign's lines.
 
     [[nodiscard]] QBrush ground() const; ///< The tile.
+    [[nodiscard]] QBrush blank() const;  ///< A tile that goes with any colours.
     [[nodiscard]] QBrush main() const;   ///< The sign's body.
     [[nodiscard]] QBrush soft() const;   ///< A second body, behind the first.
     [[nodiscard]] QBrush hollow() const; ///< What the body encloses.

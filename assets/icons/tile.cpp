@@ -127,14 +127,7 @@ void paintAuroraLight(QPainter& painter, const Material& material) {
     painter.fillPath(tileShape(Language::aurora), depth);
 }
 
-} // namespace
-
-QPainterPath tileShape(Language language) {
-    return shapeInset(language, 0);
-}
-
-void paintGround(QPainter& painter, const Material& material) {
-    painter.fillPath(tileShape(material.language()), material.ground());
+void paintLight(QPainter& painter, const Material& material) {
     switch (material.language()) {
     case Language::paper:
         break;
@@ -145,6 +138,23 @@ void paintGround(QPainter& painter, const Material& material) {
         paintAuroraLight(painter, material);
         break;
     }
+}
+
+} // namespace
+
+QPainterPath tileShape(Language language) {
+    return shapeInset(language, 0);
+}
+
+void paintGround(QPainter& painter, const Material& material) {
+    painter.fillPath(tileShape(material.language()), material.ground());
+    paintLight(painter, material);
+}
+
+void paintBlank(QPainter& painter, const Material& material) {
+    painter.fillPath(tileShape(material.language()), material.blank());
+    paintLight(painter, material);
+    paintRim(painter, material.language());
 }
 
 void paintRim(QPainter& painter, Language language) {

@@ -13,6 +13,9 @@ namespace zdt::assets {
 /// The tile without its rim: what the sign lies on.
 void paintGround(QPainter& painter, const Material& material);
 
+/// A light tile with its rim, which icons of any colours fit on.
+void paintBlank(QPainter& painter, const Material& material);
+
 /// The edge of a tile, with a little of a shadow outside.
 void paintRim(QPainter& painter, Language language);
 

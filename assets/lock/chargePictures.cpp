@@ -81,7 +81,7 @@ QPainterPath duneRidge(const QRectF& area, double left, double crest, double rig
     return path;
 }
 
-/// A round window in which the sun rises over dunes, with a line around it for the exact eye.
+/// A round window in which the sun rises over dunes, with a line around it that shows the exact level.
 void drawSunrise(QPainter& painter, QPointF middle, double fill) {
     constexpr double radius = 98;
     constexpr double lineRadius = 115;

@@ -82,14 +82,6 @@ QImage drawNoticeCard(Notice notice, const Generation& generation) {
     return canvas.finish();
 }
 
-QImage drawFootCard(const Generation& generation) {
-    Canvas canvas(sizeOf(footCard));
-    const QRectF face = faceOf(canvas.area());
-    canvas.painter().fillPath(roundedPath(face, face.height() / 2),
-                              palette::colour(lookOf(generation.language).footCard));
-    return canvas.finish();
-}
-
 QImage drawMusicPanel(const Generation& generation) {
     Canvas canvas(sizeOf(musicPanel));
     const QRectF face = faceOf(canvas.area());

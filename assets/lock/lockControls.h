@@ -12,7 +12,6 @@ enum class Notice { message, missedCall };
 [[nodiscard]] QImage drawNoticeCard(Notice notice, const Generation& generation);
 
 /// The ground of a text at the foot.
-[[nodiscard]] QImage drawFootCard(const Generation& generation);
 
 /// The ground of the music control. It bears no signs, so that it also serves as the small square of the phone's own
 /// layout.

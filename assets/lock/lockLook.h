@@ -22,7 +22,7 @@ inline constexpr Cell musicPanel{700, 190};
 inline constexpr Cell musicSkip{104, 104};
 inline constexpr Cell musicPlay{130, 130};
 inline constexpr Cell chargeRing{280, 280};
-inline constexpr Cell footCard{480, 92};
+inline constexpr Cell footText{1080, 92};
 inline constexpr Cell lockArrow{120, 90};
 inline constexpr Cell slideTrack{860, 160};
 inline constexpr Cell slideKnob{160, 160};
@@ -31,7 +31,6 @@ inline constexpr int shadowRoom = 10;
 
 struct LockLook {
     bool isCentred; ///< Clock, date and notices; otherwise they stand at the left.
-    QRgb footCard;  ///< Below texts at the foot, where the wallpaper is light and dark; clear for none.
     QRgb footInk;   ///< Those texts, and the arrow.
     QRgb cardInk;   ///< Texts on cards.
     QRgb cardTop;   ///< Cards, from above down.
@@ -45,7 +44,6 @@ struct LockLook {
 };
 
 inline constexpr LockLook paperLock{.isCentred = true,
-                                    .footCard = palette::clear,
                                     .footInk = 0xfffffdf6,
                                     .cardInk = 0xff12403f,
                                     .cardTop = 0xfffffdf6,
@@ -57,7 +55,6 @@ inline constexpr LockLook paperLock{.isCentred = true,
                                     .message = 0xff1f7f7a,
                                     .missedCall = 0xffd9603f};
 inline constexpr LockLook duneLock{.isCentred = false,
-                                   .footCard = 0x7a431d14,
                                    .footInk = 0xfffff3e0,
                                    .cardInk = 0xff4a2619,
                                    .cardTop = 0xe6fff8ec,
@@ -69,7 +66,6 @@ inline constexpr LockLook duneLock{.isCentred = false,
                                    .message = 0xffb9502e,
                                    .missedCall = 0xffa23b52};
 inline constexpr LockLook auroraLock{.isCentred = true,
-                                     .footCard = palette::clear,
                                      .footInk = 0xffffffff,
                                      .cardInk = 0xffffffff,
                                      .cardTop = 0x5c3f6fa0,
@@ -86,10 +82,6 @@ inline constexpr std::array<LockLook, 3> lockLooks{paperLock, duneLock, auroraLo
 
 [[nodiscard]] constexpr const LockLook& lookOf(Language language) {
     return lockLooks[static_cast<std::size_t>(language)];
-}
-
-[[nodiscard]] constexpr bool hasFootCards(const LockLook& look) {
-    return (look.footCard >> 24) != 0;
 }
 
 } // namespace zdt::assets

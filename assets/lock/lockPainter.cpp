@@ -1,7 +1,7 @@
 #include "assets/lock/lockPainter.h"
 
 #include "assets/art/faces.h"
-#include "assets/lock/statusBar.h"
+#include "assets/art/statusBar.h"
 #include "lockscreen/conditions.h"
 #include "lockscreen/geometry.h"
 #include "lockscreen/layoutDocument.h"
@@ -145,8 +145,7 @@ QImage paintLockScreen(const std::string& templateDirectory, QSize size, const G
     for (const auto& element : elements)
         layout.paint(*element);
     if (scene.hasStatusBar)
-        drawStatusBar(painter, {0, 0, designWidth, statusBarHeight}, generation.lockInk, timeText(scene),
-                      scene.battery);
+        drawStatusBar(painter, generation.lockInk, timeText(scene), scene.battery);
     painter.end();
     return covering(screen, size);
 }

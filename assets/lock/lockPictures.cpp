@@ -80,7 +80,7 @@ constexpr Row slide[]{
 
 } // namespace
 
-std::vector<LockPicture> lockPictures(const Generation& generation) {
+std::vector<LockPicture> lockPictures() {
     std::vector<LockPicture> pictures;
     const auto add = [&](const char* folder, const std::string& name, Draw draw) {
         pictures.push_back({folder + name, draw});
@@ -88,10 +88,6 @@ std::vector<LockPicture> lockPictures(const Generation& generation) {
     for (const Row& row : common) {
         add(designedFolder, row.name, row.draw);
         add(slidePrefix, row.name, row.draw);
-    }
-    if (hasFootCards(lookOf(generation.language))) {
-        add(designedFolder, "card_foot.png", drawPlain<drawFootCard>);
-        add(slidePrefix, "card_foot.png", drawPlain<drawFootCard>);
     }
     for (const Row& row : designed)
         add(designedFolder, row.name, row.draw);

@@ -15,6 +15,6 @@ struct LockPicture {
     QImage (*draw)(const std::string& name, const Generation& generation);
 };
 
-[[nodiscard]] std::vector<LockPicture> lockPictures(const Generation& generation);
+[[nodiscard]] std::vector<LockPicture> lockPictures();
 
 } // namespace zdt::assets

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "assets/art/shownMoment.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -11,10 +13,10 @@
 namespace zdt::assets {
 
 struct LockScene {
-    int hour = 8;   ///< 0 to 23
-    int minute = 8; ///< 0 to 59
-    QString amPm;   ///< Empty on a phone that counts 24 hours.
-    QString date = "Thursday, 12 October";
+    int hour = shownHour;     ///< 0 to 23
+    int minute = shownMinute; ///< 0 to 59
+    QString amPm;             ///< Empty on a phone that counts 24 hours.
+    QString date = shownDate;
     QString ownerInfo = "Swipe up to unlock"; ///< Empty if the owner gave none.
     int messages = 0;
     int calls = 0;    ///< Missed ones.

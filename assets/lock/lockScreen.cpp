@@ -34,10 +34,10 @@ constexpr int musicTop = noticesTop + 2 * noticeCard.height + 6;
 // From its lower edge.
 constexpr int ringTop = 580;
 constexpr int chargeTextTop = ringTop - chargeRing.height - 2;
-constexpr int arrowTop = chargeTextTop - footCard.height;
+constexpr int arrowTop = chargeTextTop - footText.height;
 constexpr int ownerTop = arrowTop - lockArrow.height - 2;
 constexpr int trackTop = 460;
-constexpr int slideChargeTop = trackTop + footCard.height + 10;
+constexpr int slideChargeTop = trackTop + footText.height + 10;
 
 constexpr int textHeight = 70;
 constexpr int textSize = 14;
@@ -136,11 +136,7 @@ public:
     }
 
     void addFootText(std::string_view src, int top) {
-        const Cell line = hasFootCards(_look) ? footCard : Cell{width, footCard.height};
-        const Place place = atFoot(centred(line.width), top, line);
-        if (hasFootCards(_look))
-            addImage("card_foot.png", place, textRow(src).visible);
-        addText(src, place, "center", textSize, _look.footInk);
+        addText(src, atFoot(0, top, footText), "center", textSize, _look.footInk);
     }
 
     /// A double tap on the clock shows the music, one on its panel hides it.

@@ -3,7 +3,7 @@
 #include "assets/art/palette.h"
 #include "assets/art/shapes.h"
 #include "assets/art/softShape.h"
-#include "assets/lock/statusBar.h"
+#include "assets/art/statusBar.h"
 #include "canvas/screens/screenLayer.h"
 
 #include <QFontMetricsF>
@@ -39,7 +39,7 @@ LockScene phoneScene() {
 
 void paintStatus(QPainter& painter, QRgb ink) {
     const LockScene scene = phoneScene();
-    drawStatusBar(painter, {0, 0, phoneWidth, statusBarHeight}, ink, timeText(scene), scene.battery);
+    drawStatusBar(painter, ink, timeText(scene), scene.battery);
 }
 
 void paintSystemBar(QPainter& painter, int height, const Generation& generation, QRgb ink) {

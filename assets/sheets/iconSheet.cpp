@@ -63,9 +63,14 @@ QImage foreignIcon() {
     return icon;
 }
 
-/// What is there of a foreign icon where the mask is, with the border above it.
-QImage framed(const TemplateFolder& folder, QImage icon) {
+/// A foreign icon on the ground, cut to the mask, with the border above it.
+QImage framed(const TemplateFolder& folder, const QImage& foreign) {
+    constexpr double part = 0.7;
+    QImage icon = folder.picture("icons/icon_background.png").convertToFormat(QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&icon);
+    const QSize side = (QSizeF(icon.size()) * part).toSize();
+    const QImage small = foreign.scaled(side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    painter.drawImage((icon.width() - side.width()) / 2, (icon.height() - side.height()) / 2, small);
     painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
     painter.drawImage(0, 0, folder.picture("icons/icon_mask.png"));
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
@@ -81,6 +86,7 @@ void addForeign(Sheet& sheet, const TemplateFolder& folder) {
     };
     const QImage foreign = foreignIcon();
     const std::vector<Step> steps{{"foreign icon", foreign},
+                                  {"icon_background", folder.picture("icons/icon_background.png")},
                                   {"icon_mask", folder.picture("icons/icon_mask.png")},
                                   {"icon_border", folder.picture("icons/icon_border.png")},
                                   {"all together", framed(folder, foreign)}};

@@ -29,13 +29,13 @@ QImage drawMusicPicture(const MusicPicture& picture) {
     const QPointF middle = canvas.area().center();
     switch (picture.face) {
     case MusicFace::ground:
-        ink.glass(canvas.area(), groundRadius, glass);
+        ink.glass(canvas.area(), groundRadius, ink.colour(glass));
         break;
     case MusicFace::bare:
         ink.sign(picture.sign, middle, signSide);
         break;
     case MusicFace::pressed:
-        ink.glass(squareAt(middle, pressedSide), pressedSide / 2, glass);
+        ink.glass(squareAt(middle, pressedSide), pressedSide / 2, ink.colour(glass));
         ink.sign(picture.sign, middle, signSide);
         break;
     case MusicFace::solid:

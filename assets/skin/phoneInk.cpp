@@ -42,8 +42,8 @@ void PhoneInk::sign(char32_t sign, QPointF middle, double side, double strength)
     fill(signOutline(sign, squareAt(middle, side)), strength);
 }
 
-void PhoneInk::glass(const QRectF& area, double radius, double strength) {
-    _painter.fillPath(roundedPath(area, radius), colour(strength));
+void PhoneInk::glass(const QRectF& area, double radius, const QColor& colour) {
+    _painter.fillPath(roundedPath(area, radius), colour);
 }
 
 } // namespace zdt::assets

@@ -42,8 +42,8 @@ public:
     void text(const Lettering& lettering, QPointF anchor, const QString& words);
     /// @param side of the sign's em square
     void sign(char32_t sign, QPointF middle, double side, double strength = 1);
-    /// A rectangle with round corners that is brighter or darker than what lies below, so that ink stands on it.
-    void glass(const QRectF& area, double radius, double strength);
+    /// A translucent rectangle with round corners, on which ink stands.
+    void glass(const QRectF& area, double radius, const QColor& colour);
 
 private:
     QPainter& _painter;

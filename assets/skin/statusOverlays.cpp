@@ -2,6 +2,8 @@
 
 #include "assets/art/picture.h"
 #include "assets/art/shapes.h"
+#include "assets/art/shownMoment.h"
+#include "assets/art/statusBar.h"
 #include "canvas/screens/screenIcons.h"
 
 namespace zdt::assets {
@@ -12,18 +14,11 @@ constexpr int width = 1080;
 constexpr double centre = width / 2.0;
 constexpr double margin = 72;
 
-constexpr const char* time = "08:08";
-constexpr const char* date = "Mon, Oct 16";
-
 void drawStatusBar(PhoneInk& ink) {
-    constexpr double middle = 38;
-    constexpr double side = 40;
-    constexpr Lettering words{{interFace, 500}, 31, Side::right};
-    ink.sign(sign::signalCellularAlt, {64, middle}, side);
-    ink.sign(sign::wifi, {110, middle}, side);
-    ink.text(words, {width - 48, middle}, time);
-    ink.sign(sign::batteryFull, {918, middle}, side);
-    ink.text(words, {896, middle}, "84%");
+    constexpr int battery = 84;
+    const StatusBar bar = statusBarOutline(shownTime, battery);
+    ink.fill(bar.emptyCell, StatusBar::emptyStrength);
+    ink.fill(bar.ink);
 }
 
 /// By which the newer phones are left: at the screen's lower edge.
@@ -35,7 +30,7 @@ void drawHomeBar(PhoneInk& ink, int height) {
 
 void drawShortcut(PhoneInk& ink, char32_t sign, QPointF middle) {
     constexpr double disc = 128;
-    ink.glass(squareAt(middle, disc), disc / 2, ink.tone() == Tone::tint ? 0.2 : 0.1);
+    ink.glass(squareAt(middle, disc), disc / 2, ink.colour(ink.tone() == Tone::tint ? 0.2 : 0.1));
     ink.sign(sign, middle, 60);
 }
 
@@ -53,7 +48,8 @@ void drawTrack(PhoneInk& ink, int height) {
     const double middle = height - 236.0;
     const QRectF track(centre - length / 2, middle - weight / 2, length, weight);
     const QRectF knob(track.left() + gap, track.top() + gap, weight - 2 * gap, weight - 2 * gap);
-    ink.glass(track, weight / 2, ink.tone() == Tone::tint ? 0.2 : 0.1);
+    // Dark words need bright glass: a bright picture may have dark slopes there.
+    ink.glass(track, weight / 2, ink.tone() == Tone::tint ? ink.colour(0.2) : QColor(255, 255, 255, 115));
     const QPainterPath disc = discOutline(knob.center(), knob.width() / 2);
     const QPainterPath arrow = signOutline(sign::chevronRight, knob.adjusted(20, 20, -20, -20));
     ink.fill(disc.subtracted(arrow), 0.94);
@@ -63,8 +59,8 @@ void drawTrack(PhoneInk& ink, int height) {
 void drawSlide(PhoneInk& ink, const StatusOverlay& overlay) {
     const int height = overlay.height;
     const bool isNew = overlay.era == Era::from9;
-    ink.text({{interDisplayFace, isNew ? 200 : 300}, 264}, {centre, isNew ? 344.0 : 316.0}, time);
-    ink.text({{interFace, 400}, 46}, {centre, isNew ? 520.0 : 492.0}, date);
+    ink.text({{interDisplayFace, isNew ? 200 : 300}, 264}, {centre, isNew ? 344.0 : 316.0}, shownTime);
+    ink.text({{interFace, 400}, 46}, {centre, isNew ? 520.0 : 492.0}, shownDate);
     if (!isNew) {
         drawTrack(ink, height);
         return;
@@ -108,8 +104,8 @@ void drawVeil(QPainter& painter, Tone tone, int height) {
 void drawMagazine(PhoneInk& ink, QPainter& painter, const StatusOverlay& overlay) {
     const int height = overlay.height;
     const bool isNew = overlay.era == Era::from9;
-    ink.text({{interDisplayFace, isNew ? 200 : 300}, 176, Side::left}, {margin, 224}, time);
-    ink.text({{interFace, 400}, 40, Side::left}, {margin + 4, 344}, date);
+    ink.text({{interDisplayFace, isNew ? 200 : 300}, 176, Side::left}, {margin, 224}, shownTime);
+    ink.text({{interFace, 400}, 40, Side::left}, {margin + 4, 344}, shownDate);
     drawVeil(painter, overlay.tone, height);
     drawStory(ink, {margin, height - (isNew ? 350.0 : 314.0), width - 2 * margin, 250});
 }

@@ -16,7 +16,7 @@ enum class OverlayKind {
     change,   ///< Status bar alone: the rest is the theme's own.
 };
 
-/// The skin's generations 5 and 8 look alike here.
+/// The skin's generations 5 and 8 look alike here: their phones have three keys and no bar at the foot.
 enum class Era { before9, from9 };
 
 struct StatusOverlay {
@@ -27,6 +27,7 @@ struct StatusOverlay {
     int height; ///< The width is 1080.
 };
 
+/// The `change` picture 1920 high is for themes of generations 5 and 8, whatever its name ends in.
 /// The pictures in "new" stand on the screen 1920 high that is shown beside the first one.
 inline constexpr std::array<StatusOverlay, 20> statusOverlays{{
     {"slide_tint_2160_9.png", OverlayKind::slide, Tone::tint, Era::from9, 2160},
@@ -46,7 +47,7 @@ inline constexpr std::array<StatusOverlay, 20> statusOverlays{{
     {"magazine_tint_5new.png", OverlayKind::magazine, Tone::tint, Era::before9, 1920},
     {"magazine_deep_5new.png", OverlayKind::magazine, Tone::deep, Era::before9, 1920},
     {"change_tint_2160_9.png", OverlayKind::change, Tone::tint, Era::from9, 2160},
-    {"change_tint_1920_9.png", OverlayKind::change, Tone::tint, Era::from9, 1920},
+    {"change_tint_1920_9.png", OverlayKind::change, Tone::tint, Era::before9, 1920},
     {"change_tint_1920_9new.png", OverlayKind::change, Tone::tint, Era::from9, 1920},
     {"change_deep_1920_9new.png", OverlayKind::change, Tone::deep, Era::from9, 1920},
 }};

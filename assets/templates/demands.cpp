@@ -1,6 +1,7 @@
 #include "assets/templates/demands.h"
 
 #include "model/fileResNode.h"
+#include "modules/iconsNode.h"
 #include "modules/tables/icons.h"
 #include "modules/tables/pictures.h"
 #include "modules/themeNode.h"
@@ -39,6 +40,12 @@ Demand demandOf(const FileResNode& file) {
     return demand;
 }
 
+/// The ground under icons of other applications. A tree has a node for each one in the theme's folder, so none here,
+/// where there is no folder.
+Demand iconBackgroundDemand() {
+    return demandOf(*makeIconNode(iconBackgroundName(0), std::string(iconsDirectory), true));
+}
+
 } // namespace
 
 std::vector<Demand> collectDemands(const Generation& generation) {
@@ -56,6 +63,8 @@ std::vector<Demand> collectDemands(const Generation& generation) {
                 demands.emplace(file->path() + file->name(), demandOf(*file));
         }
     }
+    Demand background = iconBackgroundDemand();
+    demands.emplace(background.path(), std::move(background));
     std::vector<Demand> ordered;
     ordered.reserve(demands.size());
     for (auto& [path, demand] : demands)

@@ -21,8 +21,9 @@ struct Demand {
     [[nodiscard]] std::string path() const { return directory + name; }
 };
 
-/// What the resource tree asks for, over all kinds of theme, big and small, in both languages; each file once, in the
-/// order of the paths. Previews aren't among them, nor is anything but pictures.
+/// What the resource tree asks for, over all kinds of theme, big and small, in both languages, and the ground under
+/// icons of other applications; each file once, in the order of the paths. Previews aren't among them, nor is anything
+/// but pictures.
 [[nodiscard]] std::vector<Demand> collectDemands(const Generation& generation);
 
 } // namespace zdt::assets

@@ -43,7 +43,7 @@ void addJobs(std::vector<Job>& jobs, const std::string& directory, const Generat
         const std::string path = directory + demand.path();
         jobs.push_back({path, [demand = std::move(demand), &generation] { return encode(demand, generation); }});
     }
-    for (LockPicture& picture : lockPictures(generation)) {
+    for (LockPicture& picture : lockPictures()) {
         const std::string path = directory + picture.path;
         jobs.push_back({path, [draw = picture.draw, path, &generation] { return encodePng(draw(path, generation)); }});
     }

@@ -38,9 +38,9 @@ const Ramp& rayColours() {
     return ramp;
 }
 
-/// How bright a ray is at a part of its length: a quick rise, then a long fall.
+/// How bright a ray is at a part of its length: a long fall.
 float rayLight(float part) {
-    return smoothStep(0, 0.035F, part) * (0.9F * std::exp(-5.5F * part) + 0.42F * (1 - part) * std::sqrt(1 - part));
+    return 0.9F * std::exp(-5.5F * part) + 0.42F * (1 - part) * std::sqrt(1 - part);
 }
 
 struct Ray {
@@ -72,7 +72,8 @@ public:
             // Where a fold turns, many rays stand behind each other: a bright edge, but not a line.
             const float pace = std::abs(ray.x - std::exchange(lastX, ray.x)) / spread;
             ray.light *= spread * std::sqrt(pace + 0.3F);
-            ray.x += (chance(index, 0, curtain.seed) - 0.5F) * 0.006F * _side;
+            ray.x += scatter(index, curtain.seed) * mix(0.045F, 0.003F, smoothStep(0, 1.5F, pace)) * _side;
+            ray.y += scatter(index, curtain.seed + 1) * 0.006F * _side;
             addRay(ray);
         }
     }
@@ -81,6 +82,12 @@ private:
     static constexpr int steps = 512;
     static constexpr float raysPerRow = 8;
     static constexpr float focus = 0.55F;
+    static constexpr float foot = 0.045F; ///< How far up a ray gains its light, in heights of the picture.
+
+    /// -1 to 1, mostly near 0.
+    [[nodiscard]] static float scatter(std::uint32_t index, std::uint32_t seed) {
+        return chance(index, 0, seed) + chance(index, 1, seed) - 1;
+    }
 
     /// @param part of the curtain's way, 0 to 1
     [[nodiscard]] Ray rayAt(const Curtain& curtain, float part) const {
@@ -94,7 +101,8 @@ private:
         const float ends = smoothStep(0, 0.12F, part) * smoothStep(1, 0.85F, part);
         const float streaks = 0.75F + 0.5F * sway(120, 3, 9.5F) + 0.9F * sway(6, 2, 12.5F);
         const float length = curtain.length * (1 + 0.35F * sway(40, 3, 15.5F));
-        return {static_cast<float>(_light.width()) / 2 + x * _side, (_horizon - focus / z) * _side,
+        const float end = 0.010F * sway(90, 3, 18.5F);
+        return {static_cast<float>(_light.width()) / 2 + x * _side, (_horizon - focus / z + end) * _side,
                 focus * length / z * _side, curtain.light * ends * std::max(0.F, streaks)};
     }
 
@@ -103,14 +111,16 @@ private:
         const float middle = static_cast<float>(_light.width()) / 2;
         const float lean = (middle - ray.x) * 0.22F / _side;
         const int top = std::max(0, static_cast<int>(ray.y - ray.rise));
-        for (int y = std::min(static_cast<int>(ray.y), _light.height() - 1); y >= top; --y) {
+        const float below = 0.6F * foot * _side;
+        for (int y = std::min(static_cast<int>(ray.y + below), _light.height() - 1); y >= top; --y) {
             const float height = ray.y - static_cast<float>(y);
+            const float light = ray.light * smoothStep(-below, foot * _side - below, height);
             const float x = ray.x + lean * height;
-            const auto step = static_cast<std::size_t>(std::min(height / ray.rise, 1.F) * steps);
+            const auto step = static_cast<std::size_t>(std::clamp(height / ray.rise, 0.F, 1.F) * steps);
             const int left = static_cast<int>(std::floor(x));
             const float right = x - static_cast<float>(left);
-            add(left, y, _profile[step] * (ray.light * (1 - right)));
-            add(left + 1, y, _profile[step] * (ray.light * right));
+            add(left, y, _profile[step] * (light * (1 - right)));
+            add(left + 1, y, _profile[step] * (light * right));
         }
     }
 

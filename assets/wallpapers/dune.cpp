@@ -46,12 +46,31 @@ float duneHeight(Ground ground) {
     return farther * std::max(tall * wave(large), 0.42F * wave(small) * (1 + 0.3F * bend)) - 0.35F;
 }
 
+/// How much of the low sun at the right the dunes keep from a point, 0 to 1. Only near the eye is that seen.
+float castShadow(const Surface& surface) {
+    constexpr float soft = 0.05F;
+    constexpr float stride = 0.025F;
+    constexpr int strides = 44;
+    // A sun that stands the higher the farther away: long shadows at the foot alone.
+    const float sunSlope = mix(0.24F, 0.95F, smoothStep(2.4F, 4.6F, surface.ground.z));
+    if (surface.ground.z > 4.6F)
+        return 0;
+    float covered = 0;
+    for (int index = 1; index <= strides && covered < soft; ++index) {
+        const float away = stride * static_cast<float>(index);
+        const float top = duneHeight({surface.ground.x + away, surface.ground.z});
+        covered = std::max(covered, top - surface.height - sunSlope * away);
+    }
+    return smoothStep(0, soft, covered);
+}
+
 Tint duneTint(const Surface& surface) {
     static const Ramp sand{{0, 0xff6b3138},     {0.25F, 0xff8f4636}, {0.45F, 0xffbd683f},
                            {0.65F, 0xffe0975a}, {0.85F, 0xfff6c286}, {1, 0xffffdda8}};
     constexpr Tint evening{0.47F, 0.31F, 0.37F};
     const Ground& ground = surface.ground;
-    const float light = 0.74F * surface.normalX + 0.42F * surface.normalY + 0.52F * surface.normalZ;
+    const float facing = 0.74F * surface.normalX + 0.42F * surface.normalY + 0.52F * surface.normalZ;
+    const float light = mix(facing, std::min(facing, -0.2F), castShadow(surface));
     const float sky = 0.10F + 0.10F * surface.normalY + 0.10F * std::clamp(surface.height, 0.F, 1.F);
     const float fine = 0.03F * smoothStep(9, 2.5F, ground.z) * ripples(ground, 22, 46, 0.9F, light) +
                        0.02F * smoothStep(8, 2, ground.z) * noise(ground.x * 160, ground.z * 160, 15);

@@ -120,8 +120,9 @@ TEST_P(Icons, HaveSignsOfTheFaceInTheMiddleAndOfOneSize) {
 TEST_P(Icons, FillTheShapeThatTheMaskCutsOthersTo) {
     constexpr int shadow = 110; // Outside of the shape.
     const QImage mask = picture("icon_mask.png");
-    for (const std::string name : {"com.android.dialer.png", "dynamic_icons/com.android.deskclock/deskclock_bg.png",
-                                   "dynamic_icons/com.zendro.android.totemweather/sunny.png"}) {
+    for (const std::string name :
+         {"com.android.dialer.png", "icon_background.png", "dynamic_icons/com.android.deskclock/deskclock_bg.png",
+          "dynamic_icons/com.zendro.android.totemweather/sunny.png"}) {
         const QImage tile = picture(name);
         ASSERT_EQ(tile.size(), mask.size());
         int wrong = 0;

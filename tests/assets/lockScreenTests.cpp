@@ -1,5 +1,5 @@
+#include "assets/art/statusBar.h"
 #include "assets/lock/lockScene.h"
-#include "assets/lock/statusBar.h"
 #include "assets/templateTheme.h"
 #include "lockscreen/amazingUnlockNode.h"
 #include "lockscreen/expression.h"

@@ -1,4 +1,5 @@
 #include "assets/art/pictureFile.h"
+#include "assets/art/statusBar.h"
 #include "assets/skin/bandPictures.h"
 #include "assets/skin/easingPictures.h"
 #include "assets/skin/skinWriter.h"
@@ -51,6 +52,24 @@ Ink inkOf(const QImage& picture, const QRect& area) {
     ink.cover /= 255.0 * area.width() * area.height();
     ink.grey /= std::max(1, solid);
     return ink;
+}
+
+/// Of the channels of two pictures of one size as they look on mid grey, 0 to 255. -1 if the sizes differ.
+double meanDifference(const QImage& one, const QImage& other) {
+    if (one.isNull() || one.size() != other.size())
+        return -1;
+    constexpr int grey = 128;
+    const auto shown = [](int channel, int alpha) { return (channel * alpha + grey * (255 - alpha)) / 255; };
+    double sum = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const QRgb a = one.pixel(x, y);
+            const QRgb b = other.pixel(x, y);
+            for (const auto channel : std::array<int (*)(QRgb), 3>{qRed, qGreen, qBlue})
+                sum += std::abs(shown(channel(a), qAlpha(a)) - shown(channel(b), qAlpha(b)));
+        }
+    }
+    return sum / (3.0 * one.width() * one.height());
 }
 
 /// The middle of the pixels that have the dot's colour.
@@ -121,7 +140,26 @@ TEST(SkinPictures, OfOneControlTellItsStatesApart) {
         {"res/music_next.png", "res/music_pre.png"},
     }};
     for (const auto& [one, other] : pairs)
-        EXPECT_NE(load(one), load(other)) << one;
+        EXPECT_GT(meanDifference(load(one), load(other)), 6) << one;
+}
+
+TEST(SkinPictures, OfTwiceTheSizeLookLikeTheirSingles) {
+    const std::string twice = "@2x.png";
+    int pairs = 0;
+    for (const auto& entry : fs::directory_iterator(builtPath("skin/ZDThemeDesign/png"))) {
+        const std::string name = entry.path().filename().string();
+        if (!name.ends_with(twice))
+            continue;
+        SCOPED_TRACE(name);
+        const std::string stem = "skin/ZDThemeDesign/png/" + name.substr(0, name.size() - twice.size());
+        const QImage single = load(stem + ".png");
+        const QImage large = load(stem + twice);
+        ASSERT_EQ(large.size(), single.size() * 2);
+        const QImage small = large.scaled(single.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        EXPECT_LT(meanDifference(single, small), 6);
+        ++pairs;
+    }
+    EXPECT_GT(pairs, 0);
 }
 
 TEST(BandPictures, AreAsLargeAsWhatAnElementMustKeepClearOf) {
@@ -146,26 +184,27 @@ TEST(BandPictures, AreAsLargeAsWhatAnElementMustKeepClearOf) {
     }
 }
 
-TEST(StatusOverlays, AreWhiteForDarkWallpapersAndDarkForBrightOnes) {
+TEST(StatusOverlays, SuitTheWallpapersToneAndThePhonesKeys) {
     struct Row {
         const char* name; ///< With a place for the tone.
         int height;
+        bool hasHomeBar;
         bool hasDeep = true;
     };
     const std::array<Row, 11> rows{{
-        {"slide_%1_2160_9", 2160},
-        {"slide_%1_5", 1920},
-        {"slide_%1_1920_9new", 1920},
-        {"slide_%1_5new", 1920},
-        {"magazine_%1_2160_9", 2160},
-        {"magazine_%1_5", 1920},
-        {"magazine_%1_1920_9new", 1920},
-        {"magazine_%1_5new", 1920},
-        {"change_%1_2160_9", 2160, false},
-        {"change_%1_1920_9", 1920, false},
-        {"change_%1_1920_9new", 1920},
+        {"slide_%1_2160_9", 2160, true},
+        {"slide_%1_5", 1920, false},
+        {"slide_%1_1920_9new", 1920, true},
+        {"slide_%1_5new", 1920, false},
+        {"magazine_%1_2160_9", 2160, true},
+        {"magazine_%1_5", 1920, false},
+        {"magazine_%1_1920_9new", 1920, true},
+        {"magazine_%1_5new", 1920, false},
+        {"change_%1_2160_9", 2160, true, false},
+        {"change_%1_1920_9", 1920, false, false},
+        {"change_%1_1920_9new", 1920, true},
     }};
-    const QRect statusBar(0, 0, 1080, 80);
+    const QRect statusBar(0, 0, 1080, assets::statusBarHeight);
     const auto expectTone = [&](const Row& row, const char* tone, double least, double most) {
         const std::string name = QString(row.name).arg(tone).toStdString();
         const QImage picture = load("skin/ZDThemeDesign/" + name + ".png");
@@ -175,6 +214,8 @@ TEST(StatusOverlays, AreWhiteForDarkWallpapersAndDarkForBrightOnes) {
         EXPECT_GT(ink.grey, least) << name;
         EXPECT_LT(ink.grey, most) << name;
         EXPECT_EQ(qAlpha(picture.pixel(540, row.height / 2)), 0) << name << " hides the wallpaper";
+        constexpr int moreThanTheVeil = 200;
+        EXPECT_EQ(qAlpha(picture.pixel(540, row.height - 24)) > moreThanTheVeil, row.hasHomeBar) << name;
     };
     for (const Row& row : rows) {
         expectTone(row, "tint", 240, 256);
