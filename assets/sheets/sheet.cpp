@@ -169,16 +169,18 @@ void paintCovering(QPainter& painter, const QRectF& place, double radius, const 
 bool isFaint(const QImage& picture) {
     constexpr int leastContrast = 26;
     const QImage pixels = picture.convertToFormat(QImage::Format_ARGB32);
-    double contrast = 0;
+    double onLight = 0;
+    double onDark = 0;
     int painted = 0;
     for (int y = 0; y < pixels.height(); ++y) {
         for (int x = 0; x < pixels.width(); ++x) {
             const QRgb pixel = pixels.pixel(x, y);
-            contrast += qAlpha(pixel) / 255.0 * distance(pixel, lightSquare);
+            onLight += qAlpha(pixel) / 255.0 * distance(pixel, lightSquare);
+            onDark += qAlpha(pixel) / 255.0 * distance(pixel, darkSquare);
             painted += qAlpha(pixel) ? 1 : 0;
         }
     }
-    return contrast < leastContrast * painted;
+    return onLight < leastContrast * painted && onLight < onDark;
 }
 
 } // namespace zdt::assets

@@ -55,7 +55,7 @@ void paintFitted(QPainter& painter, const QRectF& place, const QImage& picture);
 /// A picture that fills a place with rounded corners; what reaches over is cut.
 void paintCovering(QPainter& painter, const QRectF& place, double radius, const QImage& picture);
 
-/// Whether what the picture shows is hardly seen on the light ground.
+/// Whether what the picture shows is hardly seen on the light ground, and better on the dark one.
 [[nodiscard]] bool isFaint(const QImage& picture);
 
 } // namespace zdt::assets
